@@ -1,0 +1,25 @@
+# SPDX-License-Identifier: MIT
+# nx_add_dll, nx_use_dll and nx_add_program: how this project's modules and programs are made. Winelib needs more than
+# CMake's own commands do; everywhere else they are just these.
+if(NX_WINELIB)
+    include(${CMAKE_CURRENT_LIST_DIR}/../platform/winelib/Winelib.cmake)
+else()
+    function(nx_add_dll name)
+        add_library(${name} SHARED ${ARGN})
+    endfunction()
+    function(nx_use_dll target)
+        target_link_libraries(${target} PRIVATE ${ARGN})
+    endfunction()
+    function(nx_add_program name)
+        add_executable(${name} WIN32 ${ARGN})
+    endfunction()
+endif()
+
+# What every source of this project is compiled with.
+add_library(nx_common INTERFACE)
+target_compile_definitions(nx_common INTERFACE UNICODE _UNICODE NOMINMAX)
+if(MSVC)
+    target_compile_options(nx_common INTERFACE /W4 /utf-8)
+else()
+    target_compile_options(nx_common INTERFACE -Wall -Wextra -Werror)
+endif()

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Starts a program built with Winelib: a Wine prefix of the build's own, the Chinese ANSI code page, and an X display of its
+# own where there is none.
+#   run_wine.sh PROGRAM.exe [ARGUMENTS...]
+#   NX_CODE_PAGE_LOCALE  the locale whose ANSI code page Wine takes (zh_CN.UTF-8: 936)
+#   NX_SCREEN            size of the display that is started where there is none (1920x1200x24)
+set -euo pipefail
+program=$1
+shift
+folder=$(cd "$(dirname "$program")" && pwd)
+export WINEPREFIX=${WINEPREFIX:-$(dirname "$folder")/wineprefix}
+export WINEDEBUG=${WINEDEBUG:--all}
+# Nothing here uses .NET or HTML, and their installers would ask for a download when the prefix is made.
+export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+# The locale's name gives Wine its ANSI code page, its character set the encoding of file names. A machine need not have it:
+# glibc finds it in a folder of the build's own, where it is the C locale in UTF-8. Given to Wine alone, since a shell would
+# complain about a name that it cannot find.
+locale=${NX_CODE_PAGE_LOCALE:-zh_CN.UTF-8}
+locales=$(dirname "$folder")/locale
+if [ ! -e "$locales/$locale" ]; then
+    mkdir -p "$locales"
+    ln -sfn /usr/lib/locale/C.utf8 "$locales/$locale"
+fi
+if [ -z "${DISPLAY:-}" ]; then
+    exec xvfb-run -a -s "-screen 0 ${NX_SCREEN:-1920x1200x24} +extension GLX" "$0" "$program" "$@"
+fi
+exec env LOCPATH="$locales" LC_ALL="$locale" wine "$folder/$(basename "$program").so" "$@"
