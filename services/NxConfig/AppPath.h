@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Counts the changes of the application directory, so that whoever read a file of it knows when to read again. Never 0.
+unsigned int AppPathGeneration();
