@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <NxOsgCeGui/BtnUnit.h>
+#include <NxOsgCeGui/CeGuiDrawable.h>
+#include <NxOsgCeGui/Export.h>
+#include <NxOsgCeGui/GuiTypes.h>
+#include <NxOsgCeGui/StaPage.h>
+
+#include <afxwin.h>
+
+#include <osg/Camera>
+#include <osg/Group>
+#include <osg/observer_ptr>
+#include <osg/ref_ptr>
+#include <osgViewer/Viewer>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+class CeGuiToolBar;
+
+namespace CEGUI
+{
+class Window;
+}
+
+/// The interface in the 3D view: the one object through which a host reaches it.
+///
+/// Order of use: `Init` with the viewer, add `GetGUINode()` to the scene, let the viewer run (its first resize event builds
+/// the frame; size the view once after `Init`, since no such event comes by itself), forward the window's timer ticks and
+/// mouse moves, and `CloseGuiSystem` before the viewer's context goes away. After that `Init` may be called again, with the
+/// same or another viewer.
+///
+/// All of it belongs to the thread that handles the viewer's events and draws; nothing is locked. Every operation is safe in
+/// every state: before `Init`, between `ClearAllWindows` and `CreateMainFrame`, and after `CloseGuiSystem`; what it cannot do
+/// then it leaves undone. Only `Init` and `CreateMainFrame` raise (CEGUI::Exception).
+///
+/// View pixels have their origin at the top left of the 3D view.
+class NXOSGCEGUI_API CeGuiMainFrame
+{
+public:
+    /// Rows of names and values.
+    using PropertyRows = std::vector<std::pair<CString, CString>>;
+
+    /// The process's one instance, made by the first call; it lives until the process ends.
+    static CeGuiMainFrame* GetInstance();
+
+    /// Releases CEGUI and everything made with it; the records, titles and settings stay. Nothing when not initialised.
+    virtual void CloseGuiSystem();
+    /// Destroys every window and picture of the interface, and loads the skin's own imageset again. `CreateMainFrame` builds
+    /// them anew; a resize does both.
+    virtual void ClearAllWindows();
+
+    /// The setters of the scene title only store: `ChangeTitleText` also redraws.
+    virtual void SetSceneTitle(const CString& title);
+    virtual CString GetSceneTitle();
+    virtual void SetSceneTitleColor(COLORREF color);  ///< 0x00BBGGRR
+    virtual COLORREF GetSceneTitleColor() const;
+    virtual void SetSceneTitleFontStyle(const CString& face);  ///< font family name
+    virtual CString GetSceneTitleFontStyle() const;
+    virtual void SetSceneTitleFontHeight(const float& height);  ///< pixels
+    virtual float GetSceneTitleFontHeight() const;
+
+    virtual void SetStartPageTitle(const CString& title);
+    virtual CString GetStartPageTitle() const;
+    virtual void SetStartPageTitleColor(COLORREF color);  ///< 0x00BBGGRR
+    virtual COLORREF GetStartPageTitleColor() const;
+
+    /// Does nothing and returns true.
+    virtual bool RefreshButton(GUIBTNTYPE type);
+    /// The first record of that name (case-sensitive) and kind, or null. Valid until the list is next changed.
+    virtual BTN_UNIT* GetBtnProperty(const CString& name, int kind);
+
+    /// Makes the HUD camera and drawable and starts CEGUI on the viewer's context, which stays current.
+    /// @param viewer not owned; may go away after `CloseGuiSystem`
+    /// @return always true
+    /// @throws CEGUI::Exception when the skin is missing or wrong
+    bool Init(osgViewer::Viewer* viewer, GUIUserType userType);
+    bool IsInit() const;
+
+    /// Whether the host should show the system's mouse cursor: set by hovering over the interface. The host clears it.
+    bool IsDisplySystemMouse() const;
+    void SetDisplySystemMouse(bool display);
+
+    GUIUserType GetUser();
+    /// The HUD camera "gui_Camera", for the host's scene; null before `Init` and after `CloseGuiSystem`.
+    osg::ref_ptr<osg::Group> GetGUINode();
+
+    /// The host's WM_TIMER; tick 2022 drives the slide-out animation of bars.
+    void OnTimer(UINT_PTR nIDEvent);
+    /// The host's mouse moves, in view pixels: bars slide in and hide by them.
+    void OnMouseMove(UINT nFlags, CPoint point);
+    /// Does nothing; a host may call it every frame.
+    void UpdateEvent();
+
+    /// Stores the size of the view in pixels; nothing is laid out again.
+    void SetWindowSize(UINT width, UINT height);
+    void GetWindowSize(UINT& width, UINT& height);
+    /// The viewer's native window, or null.
+    HWND GetHwnd();
+    /// The last mouse position that the viewer's events brought, in view pixels.
+    CPoint GetMousePoint();
+    /// False suppresses the scene's context menu once.
+    void EnablePopupMenu(bool enable);
+    /// Where the right button was last pressed, in view pixels.
+    CPoint GetAddBtnMousePoint();
+    void SetAddBtnMousePoint(CPoint point);
+
+    bool IsOpenPropertyDlg();
+    bool IsShowLeftToolBar();
+    bool IsFullScene();
+
+    /// Replaces the control buttons by a copy. The current index stays, and nothing is built anew.
+    void SetCtrlBtnInfo(const std::vector<BTN_UNIT>& records);
+    /// The control buttons themselves, for reading and editing in place.
+    std::vector<BTN_UNIT>& GetCtrlBtnInfo();
+    /// The record at an index, or null. Valid until the list is next changed.
+    BTN_UNIT* GetBtnProperty(int index);
+    /// As the virtual one; stores the record's index when there is one.
+    BTN_UNIT* GetBtnProperty(const CString& name, int kind, int& index);
+    /// Gives the first record of that name other values. False in every case, also after a change.
+    bool SetEditBtnProperty(const CString& name, const BTN_UNIT& unit);
+    /// Does nothing and returns true.
+    bool SetEditBtnMoveState(const CString& name, bool moving);
+    /// Makes a record current, the nearest one for an index outside the list; -1 with an empty list. Nothing is posted.
+    void SetBtnIndex(int index);
+    /// -1 for none.
+    int GetBtnIndex();
+    /// The next or the previous record; from none, the previous one is the first. The host is told.
+    /// @return false when there is none
+    bool AddBtnIndex();
+    bool SubBtnIndex();
+    /// Destroys the window of that very name, if there is one, and erases the first record of that name.
+    void DeleteButton(const CString& name);
+    /// Destroys the windows "TavGuiButton_0", ... and their pictures, one for each record. The records stay.
+    void ClearAllCtrlBtn();
+
+    STAPAGE& GetStaPageParameter();
+    void SetStaPageParameter(STAPAGE& parameter);
+
+    void setPropertyData(PropertyRows& rows);
+    void getPropertyData(PropertyRows& rows);
+    void setTargetData(PropertyRows& rows);
+    PropertyRows& getTargetData();
+
+    /// Builds everything that is seen around the 3D view, for the present window size.
+    /// @return false when there is no drawable, no root sheet or no skin imageset; true otherwise
+    /// @throws CEGUI::Exception when a picture of the skin is missing or the frame stands already; what was built in this
+    ///     call is released then
+    bool CreateMainFrame();
+    /// Destroys every bar of the frame (the spelling is the exported name). The root sheet stays.
+    void DestoryAllToolBar();
+
+    /// Loads the picture "bottomBG.png" and makes no window (kept on purpose).
+    void CreateToolBar();
+    /// Toggles the left list.
+    /// @param button the CEGUI window of the tool that shows the state, or null
+    void OnToolBarRCList(void* button);
+
+    /// Stores the scene title's four properties and redraws it.
+    /// @param color 0x00BBGGRR
+    /// @param fontHeight pixels
+    void ChangeTitleText(const CString& title, COLORREF color, CString fontStyle, float fontHeight);
+    /// Sets the four properties back to their defaults; nothing is redrawn.
+    void ClearTitleSet();
+    /// Shows the picture "tavtitleimgefile.bmp", which the host has written into the CEGUI resource directory, in place of the
+    /// title, until the frame is built anew.
+    void CreateTitle(const CString& title, COLORREF color);
+
+    /// Gives the whole view to the scene, or the frame back. Camera, viewport and host window stay as they are.
+    void OnToolBarFullScene(bool full);
+
+    /// Posts `GUI_HOST_MESSAGE` to the viewer's window; without one the message lands in the calling thread's own queue.
+    void NotifyHost(UINT code, LPARAM value);
+
+protected:
+    osg::Camera* CreateHudCamera();
+    void CreateGuiDrawable();
+    void InitGuiDrawable();
+
+private:
+    CeGuiMainFrame();
+    ~CeGuiMainFrame();
+    CeGuiMainFrame(const CeGuiMainFrame&) = delete;
+    CeGuiMainFrame& operator=(const CeGuiMainFrame&) = delete;
+
+    /// Makes the viewer's context current; false when there is none.
+    bool MakeContextCurrent();
+    osgViewer::GraphicsWindow* ViewerWindow();
+
+    CeGuiToolBar* FindBar(const CString& name);
+    /// Makes a bar that this frame owns. Nothing enters it in the frame table yet.
+    CeGuiToolBar& NewBar(const RECT& rect, const CString& name, const CString& imageFile, UINT barType);
+    /// Adds the bar's window to the root sheet and enters the bar in the frame table.
+    void EnterBar(CeGuiToolBar& bar);
+    /// Lets go of bars that are no longer in the frame table.
+    void ReleaseBars();
+    void ReleaseFailedFrame();
+    void RestoreFrameState();
+    int ControlButtonCount() const;
+    void StepBtnIndex(int step);
+    bool ChangeLeftBtnState(int oldIndex, int newIndex, bool scrollTo);
+    CSize SceneTitleSize() const;
+    void CreateRootSheet();
+    void CreateTitleBar();
+    void AddTitleText(CeGuiToolBar& bar);
+    void CreateBorders();
+    void CreateBottomToolBar();
+    void CreateLeftList();
+    CEGUI::Window* FirstToolButton();
+    static void SubscribeSlidingBar(CeGuiToolBar& bar);
+
+    osg::ref_ptr<CeGuiDrawable> drawable_;
+    osg::ref_ptr<osg::Camera> hudCamera_;
+    osg::observer_ptr<osgViewer::Viewer> viewer_;
+    UINT windowWidth_ = 800;
+    UINT windowHeight_ = 600;
+    bool displaySystemMouse_ = false;
+    bool initialised_ = false;
+    GUIUserType userType_ = GUI_USER_FULL;
+    static constexpr COLORREF DefaultTitleColor = 0xE1C8C5;  // red 197, green 200, blue 225
+    static constexpr float DefaultTitleHeight = 16.0f;       // pixels
+    CString sceneTitle_;
+    COLORREF sceneTitleColor_ = DefaultTitleColor;
+    float sceneTitleFontHeight_ = DefaultTitleHeight;
+    CString sceneTitleFontStyle_;
+    CString preferredFontFace_;
+    CString startPageTitle_;
+    COLORREF startPageTitleColor_ = 0;
+    std::vector<BTN_UNIT> controlButtons_;
+    int currentButton_ = -1;
+    bool propertyDlgOpen_ = false;
+    bool showLeftToolBar_ = true;
+    bool fullScene_ = false;
+    PropertyRows propertyData_;
+    PropertyRows targetData_;
+    STAPAGE startPage_;
+    CPoint addButtonMousePoint_;
+    /// By window name, in ordinal order. Refers to bars of `bars_`.
+    std::map<CString, CeGuiToolBar*> frameTable_;
+    std::vector<std::unique_ptr<CeGuiToolBar>> bars_;
+    // Layout of the frame, in view pixels but for the first, which is an item's index.
+    int titleTextItem_ = -1;
+    int titleBarHeight_ = 50;
+    int toolBarHeight_ = 90;
+    int borderWidth_ = 2;
+};

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The building of the whole frame, and the bars that it is made of.
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FailureLog.h"
+#include "../widgets/FileImageset.h"
+#include "../widgets/Names.h"
+#include "../widgets/WindowNames.h"
+#include "FrameNames.h"
+#include "RootEvents.h"
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+
+namespace
+{
+const char* const SkinImageset = "TavLook";
+
+CEGUI::GUIContext& Gui()
+{
+    return CEGUI::System::getSingleton().getDefaultGUIContext();
+}
+} // namespace
+
+bool CeGuiMainFrame::CreateMainFrame()
+{
+    if (!drawable_ || !CEGUI::System::getSingletonPtr())
+    {
+        return false;
+    }
+    if (Gui().getRootWindow())
+    {
+        throw CEGUI::AlreadyExistsException("the frame stands already; ClearAllWindows takes it away");
+    }
+    MakeContextCurrent();
+    ReleaseBars();
+    try
+    {
+        CreateRootSheet();
+        if (!FileImagesets::IsSkinImagesetPresent(SkinImageset))
+        {
+            LogFailure("frame not built, imageset not loaded", SkinImageset);
+            return false;
+        }
+        CreateTitleBar();
+        CreateBorders();
+        CreateBottomToolBar();
+        CreateLeftList();
+        RestoreFrameState();
+        Gui().markAsDirty();
+        return true;
+    }
+    catch (const CEGUI::Exception& failure)
+    {
+        ReleaseFailedFrame();
+        LogFailure("frame not built", NameBytes(failure.getMessage()));
+        throw;
+    }
+}
+
+void CeGuiMainFrame::CreateRootSheet()
+{
+    CEGUI::Window* root = WindowNames::Create("DefaultWindow", FrameNames::RootSheet);
+    root->setSize(CEGUI::USize(CEGUI::UDim(1, 0), CEGUI::UDim(1, 0)));
+    root->setPosition(CEGUI::UVector2(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
+    root->subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnToggleFullScene));
+    root->subscribeEvent(CEGUI::Window::EventKeyDown, CEGUI::SubscriberSlot(&OnRootKeyDown));
+    root->subscribeEvent(CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnRootMouseMove));
+    Gui().setRootWindow(root);
+}
+
+void CeGuiMainFrame::RestoreFrameState()
+{
+    // What the user has chosen lives here and outlasts the windows: a resize must not take it back.
+    if (!showLeftToolBar_)
+    {
+        showLeftToolBar_ = true;
+        OnToolBarRCList(FirstToolButton());
+    }
+    if (currentButton_ >= 0)
+    {
+        ChangeLeftBtnState(-1, currentButton_, true);
+    }
+    if (fullScene_)
+    {
+        OnToolBarFullScene(true);
+    }
+}
+
+CeGuiToolBar& CeGuiMainFrame::NewBar(const RECT& rect, const CString& name, const CString& imageFile, UINT barType)
+{
+    bars_.push_back(std::make_unique<CeGuiToolBar>(rect, name, imageFile, windowWidth_, windowHeight_, barType));
+    return *bars_.back();
+}
+
+void CeGuiMainFrame::EnterBar(CeGuiToolBar& bar)
+{
+    WindowNames::AddChild(*Gui().getRootWindow(), *bar.window);
+    frameTable_[bar.name] = &bar;
+}
+
+CeGuiToolBar* CeGuiMainFrame::FindBar(const CString& name)
+{
+    const auto found = frameTable_.find(name);
+    return found == frameTable_.end() ? nullptr : found->second;
+}
+
+void CeGuiMainFrame::ReleaseBars()
+{
+    frameTable_.clear();
+    bars_.clear();
+    titleTextItem_ = -1;
+}
+
+void CeGuiMainFrame::ReleaseFailedFrame()
+{
+    for (const auto& bar : bars_)
+    {
+        bar->DestroyToolBar();
+    }
+    ReleaseBars();
+    if (CEGUI::Window* root = Gui().getRootWindow())
+    {
+        Gui().setRootWindow(nullptr);
+        WindowNames::Destroy(*root);
+    }
+    FileImagesets::DestroyFileImagesets();
+}
+
+void CeGuiMainFrame::DestoryAllToolBar()
+{
+    for (const auto& [name, bar] : frameTable_)
+    {
+        bar->DestroyToolBar();
+    }
+    // The bars themselves stay until the next frame is built: this may be running in a slot of one of them.
+    frameTable_.clear();
+}

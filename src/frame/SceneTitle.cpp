@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// The scene title in the title bar: as a text, and as a picture of the host's.
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include "../panels/HoverEvents.h"
+#include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FailureLog.h"
+#include "../widgets/FileImageset.h"
+#include "../widgets/Names.h"
+#include "../widgets/TextPicture.h"
+#include "../widgets/WindowNames.h"
+#include "ChromeEvents.h"
+#include "FrameNames.h"
+
+#include <KernelCommonUse/MultiLanguage.h>
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+
+namespace
+{
+constexpr int TextLeft = 50;                // bar pixels
+constexpr SIZE EmptyTitleSize = {100, 30};  // pixels
+constexpr float PictureTitleWidth = 600.0f; // pixels
+const wchar_t* const PictureTitleFile = L"tavtitleimgefile.bmp";
+
+void RemovePictureTitle()
+{
+    try
+    {
+        if (CEGUI::Window* former = WindowNames::Find(GuiName(FrameNames::PictureTitle)))
+        {
+            WindowNames::Destroy(*former);
+            FileImagesets::Destroy(PictureTitleFile);
+        }
+    }
+    catch (const CEGUI::Exception& dropped)
+    {
+        LogFailure("former title picture not removed (" + NameBytes(dropped.getMessage()) + ")",
+                   CString2string(PictureTitleFile));
+    }
+}
+
+void SubscribeTitle(CEGUI::Window& window)
+{
+    window.subscribeEvent(CEGUI::Window::EventMouseButtonUp, CEGUI::SubscriberSlot(&OnTitleButtonUp));
+    window.subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnTitleDoubleClick));
+}
+} // namespace
+
+CSize CeGuiMainFrame::SceneTitleSize() const
+{
+    return sceneTitle_.IsEmpty()
+               ? CSize(EmptyTitleSize)
+               : MeasureTextExtent(sceneTitleFontStyle_, static_cast<int>(sceneTitleFontHeight_), sceneTitle_);
+}
+
+void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)
+{
+    const CSize size = SceneTitleSize();
+    const RECT rect = {TextLeft, (titleBarHeight_ - size.cy) / 2, TextLeft + size.cx, (titleBarHeight_ + size.cy) / 2};
+    titleTextItem_ = bar.AddTextImage(rect, FrameNames::TitleText, sceneTitle_, static_cast<UINT>(sceneTitleFontHeight_),
+                                      sceneTitleFontStyle_, sceneTitleColor_);
+    if (titleTextItem_ >= 0)
+    {
+        CEGUI::Window& text = *bar.items[static_cast<std::size_t>(titleTextItem_)].window;
+        SubscribeTitle(text);
+        // A long title in a narrow view runs below the window buttons, which have to stay within reach.
+        text.moveToBack();
+    }
+}
+
+void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CString fontStyle, float fontHeight)
+{
+    MakeContextCurrent();
+    sceneTitle_ = title;
+    sceneTitleColor_ = color;
+    sceneTitleFontHeight_ = fontHeight;
+    sceneTitleFontStyle_ = fontStyle;
+    CeGuiToolBar* bar = FindBar(FrameNames::TitleBar);
+    if (!bar || titleTextItem_ < 0)
+    {
+        return;
+    }
+    const CSize size = SceneTitleSize();
+    const CString file = CreateTextImageFile(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy), FrameNames::TitleText,
+                                             sceneTitle_, static_cast<UINT>(sceneTitleFontHeight_), sceneTitleFontStyle_,
+                                             sceneTitleColor_);
+    if (!file.IsEmpty())
+    {
+        const LONG top = (bar->rect.bottom - bar->rect.top - size.cy) / 2;
+        bar->ChangeItemImage(titleTextItem_, file, {TextLeft, top, TextLeft + size.cx, top + size.cy});
+    }
+}
+
+void CeGuiMainFrame::ClearTitleSet()
+{
+    sceneTitle_ = CMultiLanguageMgr::GetInstance()->translation("LKEY0", "", "Common");
+    sceneTitleColor_ = DefaultTitleColor;
+    sceneTitleFontStyle_ = preferredFontFace_;
+    sceneTitleFontHeight_ = DefaultTitleHeight;
+}
+
+void CeGuiMainFrame::CreateTitle(const CString& title, COLORREF color)
+{
+    if (!CEGUI::WindowManager::getSingletonPtr() || !MakeContextCurrent())
+    {
+        return;
+    }
+    CEGUI::Window* bar = WindowNames::Find(GuiName(FrameNames::TitleBar));
+    if (!bar)
+    {
+        return;
+    }
+    RemovePictureTitle();
+    try
+    {
+        const CEGUI::Image& image = FileImagesets::Create(PictureTitleFile);
+        CEGUI::Window& picture = *WindowNames::Create("TavLook/StaticImage", GuiName(FrameNames::PictureTitle));
+        picture.setSize(CEGUI::USize(CEGUI::UDim(PictureTitleWidth / static_cast<float>(windowWidth_), 0), CEGUI::UDim(1, 0)));
+        picture.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
+        FileImagesets::Apply(picture, "Image", image);
+        SubscribeTitle(picture);
+        picture.subscribeEvent(CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnGuiHover));
+        WindowNames::AddChild(*bar, picture);
+    }
+    catch (const CEGUI::Exception& dropped)
+    {
+        LogFailure("title picture not shown (" + NameBytes(dropped.getMessage()) + ")", CString2string(PictureTitleFile));
+        return;
+    }
+    sceneTitle_ = title;
+    sceneTitleColor_ = color;
+}

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+// GLRenderer.h brings GLEW, which has to come before any other OpenGL header.
+#include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
+
+#include <NxOsgCeGui/CeGuiDrawable.h>
+
+#include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FailureLog.h"
+#include "../widgets/FileImageset.h"
+#include "../widgets/GuiImageCodec.h"
+#include "../widgets/Names.h"
+#include "CeGuiEventHandler.h"
+#include "SkinResourceProvider.h"
+
+#include <KernelCommonUse/StringConvert.h>
+#include <NxConfig/ParamConfig.h>
+#include <NxConfig/SystemUtility.h>
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/SchemeManager.h>
+#include <CEGUI/ScriptModule.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+#include <CEGUI/falagard/WidgetLookManager.h>
+
+#include <osg/State>
+
+namespace
+{
+const char* const SkinGroup = "skindir";
+const char* const SchemeFile = "TavLookSkin.scheme";
+const char* const LogFile = "CEGUI.log";
+
+bool ForgetDestroyedWindow(const CEGUI::EventArgs& args)
+{
+    CeGuiToolBar::ForgetWindow(static_cast<const CEGUI::WindowEventArgs&>(args).window);
+    return true;
+}
+} // namespace
+
+CeGuiDrawable::CeGuiDrawable()
+{
+    setSupportsDisplayList(false);
+    setEventCallback(new CeGuiEventHandler);
+}
+
+CeGuiDrawable::CeGuiDrawable(const CeGuiDrawable& other, const osg::CopyOp& copyop) : osg::Drawable(other, copyop) {}
+
+CeGuiDrawable::~CeGuiDrawable() = default;
+
+CeGuiDrawable& CeGuiDrawable::operator=(const CeGuiDrawable& other)
+{
+    contextId_ = other.contextId_;
+    reserved_ = other.reserved_;
+    renderer_ = other.renderer_;
+    system_ = other.system_;
+    firstFrameDrawn_ = other.firstFrameDrawn_;
+    resourceProvider_ = other.resourceProvider_;
+    imageCodec_ = other.imageCodec_;
+    return *this;
+}
+
+osg::Object* CeGuiDrawable::cloneType() const
+{
+    return new CeGuiDrawable;
+}
+
+osg::Object* CeGuiDrawable::clone(const osg::CopyOp& copyop) const
+{
+    return new CeGuiDrawable(*this, copyop);
+}
+
+bool CeGuiDrawable::isSameKindAs(const osg::Object* object) const
+{
+    return dynamic_cast<const CeGuiDrawable*>(object) != nullptr;
+}
+
+const char* CeGuiDrawable::libraryName() const
+{
+    return "osg";
+}
+
+const char* CeGuiDrawable::className() const
+{
+    return "CeGuiDrawable";
+}
+
+void CeGuiDrawable::Init(int contextId)
+{
+    try
+    {
+        SetupCeGui();
+        Config();
+        InitResource();
+    }
+    catch (const CEGUI::Exception& failure)
+    {
+        LogFailure("skin not loaded", NameBytes(failure.getMessage()));
+        throw;
+    }
+    contextId_ = static_cast<unsigned int>(contextId);
+}
+
+void CeGuiDrawable::SetupCeGui()
+{
+    // CEGUI writes every exception to its log; on standard error a host's user would see it twice.
+    CEGUI::Exception::setStdErrEnabled(false);
+    renderer_ = &CEGUI::OpenGLRenderer::create();
+    // OSG leaves depth test, culling, texture environment and the like as the scene wants them.
+    renderer_->enableExtraStateSettings(true);
+    resourceProvider_ = std::make_shared<SkinResourceProvider>();
+    imageCodec_ = std::make_shared<GuiImageCodec>();
+    system_ = &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", LogFile);
+    TakeServiceLog();
+    CEGUI::WindowManager::getSingleton().subscribeEvent(CEGUI::WindowManager::EventWindowDestroyed,
+                                                        CEGUI::SubscriberSlot(&ForgetDestroyedWindow));
+    contextId_ = 0;
+}
+
+void CeGuiDrawable::Config()
+{
+    CString skin = L"cegui\\TavLook\\";
+    // The parameter replaces the default also when it is missing: the skin directory is a setting, not a guess.
+    skin = _a2w(CParamConfig::getInstance()->getStringParam("CEGUI_SkinDir"));
+    const CString directory = SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath() + skin;
+    static_cast<CEGUI::DefaultResourceProvider*>(system_->getResourceProvider())
+        ->setResourceGroupDirectory(SkinGroup, GuiName(directory));
+    CEGUI::Font::setDefaultResourceGroup(SkinGroup);
+    CEGUI::Scheme::setDefaultResourceGroup(SkinGroup);
+    CEGUI::ImageManager::setImagesetDefaultResourceGroup(SkinGroup);
+    CEGUI::WidgetLookManager::setDefaultResourceGroup(SkinGroup);
+    CEGUI::WindowManager::setDefaultResourceGroup(SkinGroup);
+    CEGUI::ScriptModule::setDefaultResourceGroup(SkinGroup);
+}
+
+void CeGuiDrawable::InitResource()
+{
+    CEGUI::SchemeManager::getSingleton().createFromFile(SchemeFile, "");
+}
+
+void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
+{
+    osg::State& state = *renderInfo.getState();
+    if (state.getContextID() != contextId_)
+    {
+        return;
+    }
+    if (!firstFrameDrawn_)
+    {
+        firstFrameDrawn_ = true;
+    }
+    else
+    {
+        state.disableAllVertexArrays();
+        // A buffer object left bound would turn CEGUI's client arrays into offsets.
+        state.unbindVertexBufferObject();
+        state.unbindElementBufferObject();
+        state.setClientActiveTextureUnit(0);
+        state.setActiveTextureUnit(0);
+        CEGUI::System::getSingleton().renderAllGUIContexts();
+    }
+    state.checkGLErrors("CEGUIDrawable::drawImplementation");
+}
+
+void CeGuiDrawable::Finish()
+{
+    if (system_)
+    {
+        system_->removeAllEvents();
+        CeGuiToolBar::ForgetAllWindows();
+        CEGUI::WindowManager::getSingleton().destroyAllWindows();
+        CEGUI::WindowManager::getSingleton().cleanDeadPool();
+        FileImagesets::DestroyAllImagesets();
+        CEGUI::System::destroy();
+        system_ = nullptr;
+        resourceProvider_.reset();
+        imageCodec_.reset();
+    }
+    if (renderer_)
+    {
+        renderer_->destroyAllTextures();
+        CEGUI::OpenGLRenderer::destroy(*renderer_);
+        renderer_ = nullptr;
+    }
+}

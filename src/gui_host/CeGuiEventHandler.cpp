@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "CeGuiEventHandler.h"
+
+#include "../widgets/FailureLog.h"
+#include "../widgets/InputState.h"
+#include "../widgets/Names.h"
+
+#include <NxOsgCeGui/CeGuiDrawable.h>
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+
+#include <osgViewer/Viewer>
+
+#include <iostream>
+
+namespace
+{
+using Event = osgGA::GUIEventAdapter;
+
+struct Position
+{
+    float x;
+    float y;
+};
+
+CEGUI::GUIContext& Gui()
+{
+    return CEGUI::System::getSingleton().getDefaultGUIContext();
+}
+
+bool KeyDown(int key)
+{
+    CEGUI::Window* sheet = Gui().getRootWindow();
+    if (sheet && !sheet->isActive())
+    {
+        sheet->activate();
+    }
+    Gui().injectKeyDown(static_cast<CEGUI::Key::Scan>(key));
+    Gui().injectChar(static_cast<CEGUI::String::value_type>(key));
+    return false;
+}
+
+bool Push(const Event& ea, Position mouse)
+{
+    Gui().injectMousePosition(mouse.x, mouse.y);
+    InputState& input = InputState::Get();
+    switch (ea.getButton())
+    {
+    case Event::LEFT_MOUSE_BUTTON:
+        mouseFlags.buttonHeld = true;
+        mouseFlags.leftButton = true;
+        input.windowUnderMouse.clear();
+        Gui().injectMouseButtonDown(CEGUI::LeftButton);
+        break;
+    case Event::RIGHT_MOUSE_BUTTON:
+        mouseFlags.buttonHeld = true;
+        mouseFlags.leftButton = false;
+        input.windowUnderMouse.clear();
+        Gui().injectMouseButtonDown(CEGUI::RightButton);
+        CeGuiMainFrame::GetInstance()->SetAddBtnMousePoint(input.mousePoint);
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+bool Release(const Event& ea, Position mouse, const osg::Object& object)
+{
+    // A trace kept for those who look for lost releases.
+    std::cout << "release:" << object.getName() << ",button:" << ea.getButton() << " buttonMask:" << ea.getButtonMask()
+              << std::endl;
+    Gui().injectMousePosition(mouse.x, mouse.y);
+    InputState& input = InputState::Get();
+    switch (ea.getButton())
+    {
+    case Event::LEFT_MOUSE_BUTTON:
+        mouseFlags.buttonHeld = false;
+        mouseFlags.leftButton = true;
+        Gui().injectMouseButtonUp(CEGUI::LeftButton);
+        input.windowUnderMouse.clear();
+        break;
+    case Event::RIGHT_MOUSE_BUTTON:
+        Gui().injectMouseButtonUp(CEGUI::RightButton);
+        mouseFlags.buttonHeld = false;
+        mouseFlags.leftButton = false;
+        input.windowUnderMouse.clear();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+bool DoubleClick(const Event& ea, Position mouse)
+{
+    Gui().injectMousePosition(mouse.x, mouse.y);
+    switch (ea.getButton())
+    {
+    case Event::LEFT_MOUSE_BUTTON:
+        Gui().injectMouseButtonDoubleClick(CEGUI::LeftButton);
+        break;
+    case Event::MIDDLE_MOUSE_BUTTON:
+        Gui().injectMouseButtonDoubleClick(CEGUI::MiddleButton);
+        break;
+    case Event::RIGHT_MOUSE_BUTTON:
+        Gui().injectMouseButtonDoubleClick(CEGUI::RightButton);
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+bool Move(Position mouse)
+{
+    Gui().injectMousePosition(mouse.x, mouse.y);
+    return false;
+}
+
+bool Scroll(const Event& ea)
+{
+    // Against CEGUI's convention, in which up is positive, on purpose: the bars' scrolling counts on it.
+    switch (ea.getScrollingMotion())
+    {
+    case Event::SCROLL_UP:
+        return Gui().injectMouseWheelChange(-1.0f);
+    case Event::SCROLL_DOWN:
+        return Gui().injectMouseWheelChange(1.0f);
+    default:
+        return false;
+    }
+}
+
+bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)
+{
+    int width = ea.getWindowWidth();
+    int height = ea.getWindowHeight();
+    if (auto* viewer = dynamic_cast<osgViewer::Viewer*>(&aa))
+    {
+        if (const osg::Viewport* viewport = viewer->getCamera()->getViewport())
+        {
+            width = static_cast<int>(viewport->width());
+            height = static_cast<int>(viewport->height());
+        }
+    }
+    // A minimised window has no size: there is nothing to lay out before it has one again.
+    if (width <= 0 || height <= 0)
+    {
+        return false;
+    }
+    CEGUI::System::getSingleton().notifyDisplaySizeChanged(CEGUI::Sizef(static_cast<float>(width), static_cast<float>(height)));
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    frame.SetWindowSize(static_cast<UINT>(width), static_cast<UINT>(height));
+    frame.ClearAllWindows();
+    frame.CreateMainFrame();
+    Gui().markAsDirty();
+    return false;
+}
+
+bool Dispatch(const Event& ea, osgGA::GUIActionAdapter& aa, const osg::Object& object, Position mouse)
+{
+    switch (ea.getEventType())
+    {
+    case Event::KEYDOWN:
+        return KeyDown(ea.getKey());
+    case Event::KEYUP:
+        Gui().injectKeyUp(static_cast<CEGUI::Key::Scan>(ea.getKey()));
+        return false;
+    case Event::PUSH:
+        return Push(ea, mouse);
+    case Event::RELEASE:
+        return Release(ea, mouse, object);
+    case Event::DOUBLECLICK:
+        return DoubleClick(ea, mouse);
+    case Event::DRAG:
+    case Event::MOVE:
+        return Move(mouse);
+    case Event::SCROLL:
+        return Scroll(ea);
+    case Event::RESIZE:
+        return Resize(ea, aa);
+    default:
+        return false;
+    }
+}
+} // namespace
+
+bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg::Object* object, osg::NodeVisitor*)
+{
+    if (!dynamic_cast<CeGuiDrawable*>(object))
+    {
+        return false;
+    }
+    // The viewer's y axis points up, CEGUI's down.
+    const Position mouse = {ea.getX(), static_cast<float>(ea.getWindowHeight()) - ea.getY()};
+    InputState::Get().mousePoint = CPoint(static_cast<int>(mouse.x), static_cast<int>(mouse.y));
+    if (!CEGUI::System::getSingletonPtr())
+    {
+        return false;
+    }
+    try
+    {
+        return Dispatch(ea, aa, *object, mouse);
+    }
+    catch (const CEGUI::Exception& failure)
+    {
+        LogFailure("event not carried out", NameBytes(failure.getMessage()));
+    }
+    catch (const std::exception& failure)
+    {
+        LogFailure("event not carried out", failure.what());
+    }
+    return false;
+}

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+// Start and end of the interface, and its link to the host's viewer and window.
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FileImageset.h"
+#include "../widgets/InputState.h"
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+
+#include <osgViewer/api/Win32/GraphicsWindowWin32>
+
+namespace
+{
+const char* const SkinImagesetFile = "TavLook.imageset";
+const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
+const wchar_t* const LeftListFrame = L"TavLeftCtrlFrame";
+} // namespace
+
+bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
+{
+    // A second start without an end in between: CEGUI exists once in a process.
+    CloseGuiSystem();
+    viewer_ = viewer;
+    userType_ = userType;
+    CreateGuiDrawable();
+    try
+    {
+        InitGuiDrawable();
+    }
+    catch (...)
+    {
+        drawable_->Finish();
+        drawable_ = nullptr;
+        hudCamera_ = nullptr;
+        throw;
+    }
+    if (viewer && viewer->getCamera()->getViewport())
+    {
+        const osg::Viewport& viewport = *viewer->getCamera()->getViewport();
+        SetWindowSize(static_cast<UINT>(viewport.width()), static_cast<UINT>(viewport.height()));
+    }
+    currentButton_ = -1;
+    propertyDlgOpen_ = false;
+    fullScene_ = false;
+    initialised_ = true;
+    showLeftToolBar_ = true;
+    return true;
+}
+
+void CeGuiMainFrame::InitGuiDrawable()
+{
+    if (drawable_ && MakeContextCurrent())
+    {
+        drawable_->Init(static_cast<int>(viewer_->getCamera()->getGraphicsContext()->getState()->getContextID()));
+    }
+}
+
+void CeGuiMainFrame::CloseGuiSystem()
+{
+    if (!initialised_)
+    {
+        return;
+    }
+    MakeContextCurrent();
+    hudCamera_->removeChildren(0, hudCamera_->getNumChildren());
+    drawable_->Finish();
+    drawable_ = nullptr;
+    hudCamera_ = nullptr;
+    frameTable_.clear();
+    bars_.clear();
+    titleTextItem_ = -1;
+    InputState::Release();
+    initialised_ = false;
+}
+
+void CeGuiMainFrame::ClearAllWindows()
+{
+    CEGUI::System* system = CEGUI::System::getSingletonPtr();
+    if (!system || !MakeContextCurrent())
+    {
+        return;
+    }
+    system->removeAllEvents();
+    CeGuiToolBar::ForgetAllWindows();
+    CEGUI::WindowManager::getSingleton().destroyAllWindows();
+    FileImagesets::DestroyAllImagesets();
+    CEGUI::ImageManager::getSingleton().loadImageset(SkinImagesetFile, "");
+}
+
+osg::ref_ptr<osg::Group> CeGuiMainFrame::GetGUINode()
+{
+    return hudCamera_;
+}
+
+osgViewer::GraphicsWindow* CeGuiMainFrame::ViewerWindow()
+{
+    return viewer_.valid() && viewer_->getCamera()
+               ? dynamic_cast<osgViewer::GraphicsWindow*>(viewer_->getCamera()->getGraphicsContext())
+               : nullptr;
+}
+
+bool CeGuiMainFrame::MakeContextCurrent()
+{
+    osgViewer::GraphicsWindow* context = ViewerWindow();
+    return context && context->getState() && context->makeCurrent();
+}
+
+HWND CeGuiMainFrame::GetHwnd()
+{
+    const auto* window = dynamic_cast<osgViewer::GraphicsWindowWin32*>(ViewerWindow());
+    return window ? window->getHWND() : nullptr;
+}
+
+void CeGuiMainFrame::NotifyHost(UINT code, LPARAM value)
+{
+    PostMessageW(GetHwnd(), GUI_HOST_MESSAGE, code, value);
+}
+
+void CeGuiMainFrame::OnTimer(UINT_PTR nIDEvent)
+{
+    for (const auto& [name, bar] : frameTable_)
+    {
+        bar->OnHideTimer(nIDEvent);
+    }
+}
+
+void CeGuiMainFrame::OnMouseMove(UINT, CPoint point)
+{
+    static const CString toolBar = ToolBarFrame;
+    static const CString leftList = LeftListFrame;
+    const CeGuiToolBar* left = FindBar(leftList);
+    // The two overlap, and the left list wins.
+    const bool leftListShown = left && left->window && left->window->isVisible();
+    for (const auto& [name, bar] : frameTable_)
+    {
+        if (!leftListShown || name != toolBar)
+        {
+            bar->AutoHideByMouse(point);
+        }
+    }
+}

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "FileImageset.h"
+
+#include "FailureLog.h"
+#include "Names.h"
+
+#include <CEGUI/BasicImage.h>
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/Renderer.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Texture.h>
+#include <CEGUI/Window.h>
+
+#include <cstdint>
+#include <map>
+
+namespace
+{
+const char* const FullImageName = "full_image";
+
+struct Imageset
+{
+    CEGUI::BasicImage* image = nullptr;
+    CEGUI::Texture* texture = nullptr;
+    /// False between `Destroy` and the next `Create`: image and texture stay, since windows refer to them, but are blank.
+    bool loaded = false;
+};
+
+std::map<CEGUI::String, Imageset, CEGUI::StringFastLessCompare> imagesets;
+
+CEGUI::Renderer& Renderer()
+{
+    return *CEGUI::System::getSingleton().getRenderer();
+}
+
+void MakeBlank(Imageset& imageset)
+{
+    const std::uint32_t transparent = 0;
+    imageset.texture->loadFromMemory(&transparent, CEGUI::Sizef(1, 1), CEGUI::Texture::PF_RGBA);
+    imageset.image->setArea(CEGUI::Rectf(0, 0, 1, 1));
+    imageset.loaded = false;
+}
+
+Imageset& AddBlank(const CEGUI::String& name)
+{
+    Imageset imageset;
+    imageset.texture = &Renderer().createTexture(name);
+    imageset.image = static_cast<CEGUI::BasicImage*>(
+        &CEGUI::ImageManager::getSingleton().create("BasicImage", name + "/" + FullImageName));
+    imageset.image->setTexture(imageset.texture);
+    MakeBlank(imageset);
+    return imagesets[name] = imageset;
+}
+
+void Load(Imageset& imageset, const CEGUI::String& name)
+{
+    try
+    {
+        imageset.texture->loadFromFile(name, CEGUI::ImageManager::getImagesetDefaultResourceGroup());
+        const CEGUI::Sizef& size = imageset.texture->getOriginalDataSize();
+        imageset.image->setArea(CEGUI::Rectf(0, 0, size.d_width, size.d_height));
+        imageset.loaded = true;
+    }
+    catch (const CEGUI::Exception&)
+    {
+        LogFailure("picture not loaded", NameBytes(name));
+        MakeBlank(imageset);
+        throw;
+    }
+}
+
+Imageset* Find(const CEGUI::String& name)
+{
+    const auto found = imagesets.find(name);
+    return found != imagesets.end() && found->second.loaded ? &found->second : nullptr;
+}
+} // namespace
+
+namespace FileImagesets
+{
+CEGUI::Image& Create(const CString& file)
+{
+    const CEGUI::String name = GuiName(file);
+    if (Find(name))
+    {
+        throw CEGUI::AlreadyExistsException("an imageset named '" + name + "' is there already");
+    }
+    const auto known = imagesets.find(name);
+    Imageset& imageset = known != imagesets.end() ? known->second : AddBlank(name);
+    Load(imageset, name);
+    return *imageset.image;
+}
+
+bool IsPresent(const CString& file)
+{
+    return Find(GuiName(file)) != nullptr;
+}
+
+CEGUI::Image& Get(const CString& file)
+{
+    const CEGUI::String name = GuiName(file);
+    if (Imageset* imageset = Find(name))
+    {
+        return *imageset->image;
+    }
+    throw CEGUI::UnknownObjectException("there is no imageset named '" + name + "'");
+}
+
+CEGUI::Image& GetImagesetFromFile(const CString& file)
+{
+    if (Imageset* imageset = Find(GuiName(file)))
+    {
+        return *imageset->image;
+    }
+    return Create(file);
+}
+
+void Destroy(const CString& file)
+{
+    DestroyNamed(GuiName(file));
+}
+
+void DestroyNamed(const CEGUI::String& name)
+{
+    if (Imageset* imageset = Find(name))
+    {
+        MakeBlank(*imageset);
+    }
+}
+
+void DestroyFileImagesets()
+{
+    for (auto& [name, imageset] : imagesets)
+    {
+        if (imageset.loaded)
+        {
+            MakeBlank(imageset);
+        }
+    }
+}
+
+void DestroyAllImagesets()
+{
+    imagesets.clear();
+    CEGUI::ImageManager::getSingleton().destroyAll();
+    Renderer().destroyAllTextures();
+}
+
+bool IsSkinImagesetPresent(const CEGUI::String& name)
+{
+    return Renderer().isTextureDefined(name);
+}
+
+void Apply(CEGUI::Window& window, const char* property, const CEGUI::Image& image)
+{
+    window.setProperty(property, CEGUI::PropertyHelper<CEGUI::Image*>::toString(&image));
+}
+} // namespace FileImagesets

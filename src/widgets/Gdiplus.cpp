@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "Gdiplus.h"
+
+#include <atlimage.h>
+
+namespace gp
+{
+void RequireGdiplus()
+{
+    // While a CImage lives GDI+ stays; this one is never destroyed on purpose.
+    static const CImage* const keeper = []
+    {
+        CString filter;
+        CSimpleArray<GUID> formats;
+        auto* image = new CImage;
+        CImage::GetExporterFilterString(filter, formats);
+        return image;
+    }();
+    (void)keeper;
+}
+
+Bitmap NewBitmap(int width, int height)
+{
+    RequireGdiplus();
+    return Make<Bitmap>([&](GpBitmap** bitmap)
+                        { return GdipCreateBitmapFromScan0(width, height, 0, PixelFormat32bppARGB, nullptr, bitmap); });
+}
+
+FontFamily NewFontFamily(const wchar_t* name)
+{
+    RequireGdiplus();
+    return Make<FontFamily>([&](GpFontFamily** family) { return GdipCreateFontFamilyFromName(name, nullptr, family); });
+}
+
+Font NewFont(const GpFontFamily* family, float pixels)
+{
+    return Make<Font>(
+        [&](GpFont** font)
+        {
+            *font = nullptr;
+            return family ? GdipCreateFont(family, pixels, FontStyleRegular, UnitPixel, font) : FontFamilyNotFound;
+        });
+}
+
+StringFormat NewStringFormat()
+{
+    RequireGdiplus();
+    StringFormat format =
+        Make<StringFormat>([](GpStringFormat** format) { return GdipCreateStringFormat(0, LANG_NEUTRAL, format); });
+    GdipSetStringFormatAlign(format.get(), StringAlignmentNear);
+    return format;
+}
+
+SolidBrush NewSolidBrush(ARGB color)
+{
+    return Make<SolidBrush>([&](GpSolidFill** brush) { return GdipCreateSolidFill(color, brush); });
+}
+
+Graphics GraphicsOf(GpImage* image)
+{
+    return Make<Graphics>([&](GpGraphics** graphics) { return GdipGetImageGraphicsContext(image, graphics); });
+}
+
+void SetQuality(GpGraphics* graphics, TextRenderingHint hint)
+{
+    GdipSetTextRenderingHint(graphics, hint);
+    GdipSetInterpolationMode(graphics, InterpolationModeHighQualityBicubic);
+    GdipSetSmoothingMode(graphics, SmoothingModeAntiAlias);
+}
+} // namespace gp

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <windows.h>
+
+#include <objidl.h>
+
+#include <algorithm>
+
+// GDI+'s headers use the macros that NOMINMAX takes away.
+namespace Gdiplus
+{
+using std::max;
+using std::min;
+} // namespace Gdiplus
+
+#include <gdiplus.h>
+
+#include <memory>
+
+/// The flat GDI+ interface with owners for what it hands out.
+namespace gp
+{
+using namespace Gdiplus;
+using namespace Gdiplus::DllExports;
+
+struct Deleter
+{
+    void operator()(GpImage* image) const { GdipDisposeImage(image); }
+    void operator()(GpGraphics* graphics) const { GdipDeleteGraphics(graphics); }
+    void operator()(GpFontFamily* family) const { GdipDeleteFontFamily(family); }
+    void operator()(GpFont* font) const { GdipDeleteFont(font); }
+    void operator()(GpStringFormat* format) const { GdipDeleteStringFormat(format); }
+    void operator()(GpBrush* brush) const { GdipDeleteBrush(brush); }
+    void operator()(GpPen* pen) const { GdipDeletePen(pen); }
+};
+
+template <class T>
+using Owner = std::unique_ptr<T, Deleter>;
+using Bitmap = Owner<GpBitmap>;
+using Image = Owner<GpImage>;
+using Graphics = Owner<GpGraphics>;
+using FontFamily = Owner<GpFontFamily>;
+using Font = Owner<GpFont>;
+using StringFormat = Owner<GpStringFormat>;
+using SolidBrush = Owner<GpSolidFill>;
+using Pen = Owner<GpPen>;
+
+/// Starts GDI+ for the process the way every user of image files in an MFC program does: by CImage's first use. Nothing
+/// happens from the second call on. GDI+ then stays until the process ends, since it may not be shut down while modules
+/// are being unloaded.
+void RequireGdiplus();
+
+/// Makes an object through a flat creator that fills in a pointer; null when GDI+ could not make it.
+template <class Owner, class Create>
+Owner Make(Create create)
+{
+    typename Owner::pointer object = nullptr;
+    create(&object);
+    return Owner(object);
+}
+
+/// A bitmap of 32-bit ARGB, transparent black; null when it could not be had.
+Bitmap NewBitmap(int width, int height);
+/// The font family, or null when no such family is installed.
+FontFamily NewFontFamily(const wchar_t* name);
+/// A regular font with an em height in pixels; null without a family.
+Font NewFont(const GpFontFamily* family, float pixels);
+/// Text aligned near, with GDI+'s default rules.
+StringFormat NewStringFormat();
+SolidBrush NewSolidBrush(ARGB color);
+Graphics GraphicsOf(GpImage* image);
+
+/// COLORREF (0x00BBGGRR) as an opaque ARGB (0xFFRRGGBB).
+constexpr ARGB OpaqueArgb(COLORREF color)
+{
+    return 0xFF000000u | (color & 0xFF) << 16 | (color & 0xFF00) | (color >> 16 & 0xFF);
+}
+
+/// The rendering settings of every text drawn here, as GDI+ numbers them.
+void SetQuality(GpGraphics* graphics, TextRenderingHint hint);
+} // namespace gp

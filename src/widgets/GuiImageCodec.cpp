@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "GuiImageCodec.h"
+
+#include <CEGUI/DataContainer.h>
+#include <CEGUI/Size.h>
+#include <CEGUI/Texture.h>
+
+#include <cstring>
+
+namespace
+{
+constexpr UINT MaxSide = 32768;
+
+struct ReleaseStream
+{
+    void operator()(IStream* stream) const { stream->Release(); }
+};
+
+/// A stream over a copy of the bytes.
+std::unique_ptr<IStream, ReleaseStream> StreamOf(const std::uint8_t* data, std::size_t size)
+{
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+    if (!memory)
+    {
+        return nullptr;
+    }
+    std::memcpy(GlobalLock(memory), data, size);
+    GlobalUnlock(memory);
+    IStream* stream = nullptr;
+    if (CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
+    {
+        GlobalFree(memory);
+        return nullptr;
+    }
+    return std::unique_ptr<IStream, ReleaseStream>(stream);
+}
+
+bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
+{
+    gp::RequireGdiplus();
+    const auto stream = StreamOf(data, size);
+    if (!stream)
+    {
+        return false;
+    }
+    const gp::Bitmap bitmap =
+        gp::Make<gp::Bitmap>([&](gp::GpBitmap** b) { return gp::GdipCreateBitmapFromStream(stream.get(), b); });
+    UINT width = 0;
+    UINT height = 0;
+    if (!bitmap || gp::GdipGetImageWidth(bitmap.get(), &width) != gp::Ok ||
+        gp::GdipGetImageHeight(bitmap.get(), &height) != gp::Ok || width == 0 || height == 0 || width > MaxSide ||
+        height > MaxSide)
+    {
+        return false;
+    }
+    const gp::GpRect all = {0, 0, static_cast<INT>(width), static_cast<INT>(height)};
+    gp::BitmapData locked = {};
+    if (gp::GdipBitmapLockBits(bitmap.get(), &all, gp::ImageLockModeRead, PixelFormat32bppARGB, &locked) != gp::Ok)
+    {
+        return false;
+    }
+    picture.width = static_cast<int>(width);
+    picture.height = static_cast<int>(height);
+    picture.pixels.resize(std::size_t(width) * height * 4);
+    for (UINT row = 0; row < height; ++row)
+    {
+        const auto* from = static_cast<const std::uint8_t*>(locked.Scan0) + std::ptrdiff_t(locked.Stride) * row;
+        std::uint8_t* to = picture.pixels.data() + std::size_t(width) * 4 * row;
+        for (UINT i = 0; i < width * 4; i += 4)
+        {
+            to[i] = from[i + 2];
+            to[i + 1] = from[i + 1];
+            to[i + 2] = from[i];
+            to[i + 3] = from[i + 3];
+        }
+    }
+    gp::GdipBitmapUnlockBits(bitmap.get(), &locked);
+    return true;
+}
+} // namespace
+
+bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
+{
+    return ReadBmpFile(data, size, picture) || DecodeThroughGdiplus(data, size, picture);
+}
+
+GuiImageCodec::GuiImageCodec() : ImageCodec("NxOsgCeGui picture codec")
+{
+    d_supportedFormat = "bmp jpeg jpg gif tiff png";
+}
+
+CEGUI::Texture* GuiImageCodec::load(const CEGUI::RawDataContainer& data, CEGUI::Texture* result)
+{
+    RgbaPicture picture;
+    if (!DecodePicture(data.getDataPtr(), data.getSize(), picture))
+    {
+        return nullptr;
+    }
+    const CEGUI::Sizef size(static_cast<float>(picture.width), static_cast<float>(picture.height));
+    result->loadFromMemory(picture.pixels.data(), size, CEGUI::Texture::PF_RGBA);
+    return result;
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "WindowNames.h"
+
+#include <CEGUI/PropertyHelper.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+
+namespace
+{
+const char* const GivenName = "GivenName";
+
+/// A name that no record can have made, since it is counted up over the life of the process.
+CEGUI::String FreeName()
+{
+    static unsigned int count = 0;
+    return "renamed window " + CEGUI::PropertyHelper<CEGUI::uint>::toString(++count);
+}
+
+void Rename(CEGUI::Window& window)
+{
+    window.setUserString(GivenName, WindowNames::Of(window));
+    window.setName(FreeName());
+}
+} // namespace
+
+namespace WindowNames
+{
+CEGUI::Window* Create(const char* type, const CEGUI::String& name)
+{
+    const bool usable = !name.empty() && name.find('/') == CEGUI::String::npos;
+    CEGUI::Window* window = CEGUI::WindowManager::getSingleton().createWindow(type, usable ? name : FreeName());
+    if (!usable)
+    {
+        window->setUserString(GivenName, name);
+    }
+    return window;
+}
+
+void AddChild(CEGUI::Window& parent, CEGUI::Window& child)
+{
+    if (parent.isChild(child.getName()))
+    {
+        Rename(child);
+    }
+    parent.addChild(&child);
+}
+
+const CEGUI::String& Of(const CEGUI::Window& window)
+{
+    return window.isUserStringDefined(GivenName) ? window.getUserString(GivenName) : window.getName();
+}
+
+CEGUI::Window* Find(const CEGUI::String& name)
+{
+    for (auto window = CEGUI::WindowManager::getSingleton().getIterator(); !window.isAtEnd(); ++window)
+    {
+        if (Of(**window) == name)
+        {
+            return *window;
+        }
+    }
+    return nullptr;
+}
+
+void Destroy(CEGUI::Window& window)
+{
+    window.removeAllEvents();
+    if (CEGUI::Window* parent = window.getParent())
+    {
+        parent->removeChild(&window);
+    }
+    CEGUI::WindowManager::getSingleton().destroyWindow(&window);
+}
+} // namespace WindowNames

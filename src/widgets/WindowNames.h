@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace CEGUI
+{
+class String;
+class Window;
+} // namespace CEGUI
+
+/// Windows by name. Names come from hosts' records, so several windows may carry the same one, and it may hold the "/" that
+/// parts CEGUI's look-up paths, or be empty. CEGUI wants names of its own choosing unique among siblings; a window whose name
+/// cannot stand so is renamed there and goes on being known here by the name that it was given.
+namespace WindowNames
+{
+/// A window of a type under a name.
+/// @throws CEGUI::Exception for an unknown type
+CEGUI::Window* Create(const char* type, const CEGUI::String& name);
+
+/// Adds a window that `Create` made to a parent, whatever names the parent's children have.
+void AddChild(CEGUI::Window& parent, CEGUI::Window& child);
+
+/// The name that the window was made under.
+const CEGUI::String& Of(const CEGUI::Window& window);
+
+/// Any window of that name, wherever it is; the one made first if there are several. Null when there is none. Walks every
+/// live window: for single actions, not for every frame or mouse move.
+CEGUI::Window* Find(const CEGUI::String& name);
+
+/// Takes the window out of its parent, with all that is subscribed to it, and destroys it.
+void Destroy(CEGUI::Window& window);
+} // namespace WindowNames
