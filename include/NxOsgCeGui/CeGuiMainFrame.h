@@ -142,10 +142,31 @@ public:
     STAPAGE& GetStaPageParameter();
     void SetStaPageParameter(STAPAGE& parameter);
 
+    /// Rows of the property panel, in display order; `RefreshPropertyDlg` shows them.
     void setPropertyData(PropertyRows& rows);
     void getPropertyData(PropertyRows& rows);
+    int PropertyRowCount() const;
+    /// A row's name; empty for a row that is not there.
+    CString PropertyRowName(int row) const;
+    /// Rows kept for the host; nothing shows them.
     void setTargetData(PropertyRows& rows);
     PropertyRows& getTargetData();
+
+    /// Opens or closes the property panel.
+    /// @param button the CEGUI window of the tool that shows the state, or null
+    void OpenPropertyDlg(void* button, bool open);
+    /// Does nothing (kept on purpose): `OpenPropertyDlg` closes the panel.
+    void ClosePropertyDlg();
+    /// Draws and lays out the panel anew.
+    /// @return whether it is open and could be laid out; a view under 240 x 200 pixels cannot hold it
+    bool RefreshPropertyDlg();
+    /// Whether a point (view pixels; only x counts) lies left of the open panel.
+    bool IsNeedRefreshPropertyDlg(CPoint point);
+
+    /// Shows a text in the one tooltip window, in place of the one that is shown; an empty text shows none.
+    /// @param x,y the window's top left corner, view pixels
+    void CreateTooltipWindow(int x, int y, const CString& text);
+    void DestroyTooltipWindow();
 
     /// Builds everything that is seen around the 3D view, for the present window size.
     /// @return false when there is no drawable, no root sheet or no skin imageset; true otherwise
@@ -210,8 +231,15 @@ private:
     void AddTitleText(CeGuiToolBar& bar);
     void CreateBorders();
     void CreateBottomToolBar();
+    bool IsFrameBuilt() const;
+    void RefreshPanelFrame(CeGuiToolBar* panel);
+    bool RefreshPropertyList(CeGuiToolBar* list);
+    void ShowPropertyTool(CEGUI::Window* button);
     void CreateLeftList();
-    CEGUI::Window* FirstToolButton();
+    /// The window of a tool, counted from 1; null when there is none.
+    CEGUI::Window* ToolButton(int number);
+    /// The events of every button that is added to the bar from now on: hover, tooltip, press.
+    static void AddItemEvents(CeGuiToolBar& bar);
     static void SubscribeSlidingBar(CeGuiToolBar& bar);
 
     osg::ref_ptr<CeGuiDrawable> drawable_;

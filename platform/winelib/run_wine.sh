@@ -9,10 +9,8 @@ set -euo pipefail
 program=$1
 shift
 folder=$(cd "$(dirname "$program")" && pwd)
-export WINEPREFIX=${WINEPREFIX:-$(dirname "$folder")/wineprefix}
-export WINEDEBUG=${WINEDEBUG:--all}
-# Nothing here uses .NET or HTML, and their installers would ask for a download when the prefix is made.
-export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
+here=$(cd "$(dirname "$0")" && pwd)
+. "$here/wine_env.sh" "$(dirname "$folder")/wineprefix"
 # The locale's name gives Wine its ANSI code page, its character set the encoding of file names. A machine need not have it:
 # glibc finds it in a folder of the build's own, where it is the C locale in UTF-8. Given to Wine alone, since a shell would
 # complain about a name that it cannot find.
@@ -23,6 +21,7 @@ if [ ! -e "$locales/$locale" ]; then
     ln -sfn /usr/lib/locale/C.utf8 "$locales/$locale"
 fi
 if [ -z "${DISPLAY:-}" ]; then
-    exec xvfb-run -a -s "-screen 0 ${NX_SCREEN:-1920x1200x24} +extension GLX" "$0" "$program" "$@"
+    exec "$here/with_display.sh" "$0" "$program" "$@"
 fi
-exec env LOCPATH="$locales" LC_ALL="$locale" wine "$folder/$(basename "$program").so" "$@"
+# Numbers stay in the C locale, which CEGUI insists on.
+exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" wine "$folder/$(basename "$program").so" "$@"

@@ -35,6 +35,19 @@ bool OnTool(const CEGUI::EventArgs&)
     return true;
 }
 
+bool OnPropertyTool(const CEGUI::EventArgs& args)
+{
+    CEGUI::Window* button = static_cast<const CEGUI::WindowEventArgs&>(args).window;
+    if (!button)
+    {
+        return false;
+    }
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    frame.OpenPropertyDlg(button, !frame.IsOpenPropertyDlg());
+    frame.NotifyHost(GUI_CMD_DISPLAY_PROPERTIES, 0);
+    return true;
+}
+
 bool OnListTool(const CEGUI::EventArgs& args)
 {
     CEGUI::Window* button = static_cast<const CEGUI::WindowEventArgs&>(args).window;
@@ -58,7 +71,7 @@ const Tool tools[] = {
     {L"viewvideoset", "LKEY5", OnListTool, false},
     {L"roam", "LKEY6", OnTool<GUI_CMD_ROAM>, false},
     {L"environment", "LKEY7", OnTool<GUI_CMD_ENVIRONMENT>, false},
-    {L"property", "LKEY8", OnTool<GUI_CMD_DISPLAY_PROPERTIES>, false},
+    {L"property", "LKEY8", OnPropertyTool, false},
     {L"obliquepathmanage", "LKEY9", OnTool<GUI_CMD_DATA_MANAGEMENT>, false},
     {L"browser", "LKEY10", OnTool<GUI_CMD_PUBLISH>, true},
 };
@@ -72,7 +85,7 @@ void CeGuiMainFrame::CreateBottomToolBar()
                        borderWidth_ + (restricted ? WidthOfFiveTools : WidthOfSixTools), height - borderWidth_};
     CeGuiToolBar& bar = NewBar(rect, FrameNames::ToolBar, L"new_skin/bottomBG.png", BAR_TOOLS);
     bar.triggerRect = {0, rect.top, rect.right, height};
-    bar.itemEvents[CEGUI::Window::EventMouseMove] = OnGuiHover;
+    AddItemEvents(bar);
     SubscribeSlidingBar(bar);
     bar.buttonWidth = ButtonSize;
     bar.buttonHeight = ButtonSize;
@@ -106,10 +119,11 @@ void CeGuiMainFrame::CreateBottomToolBar()
     EnterBar(bar);
 }
 
-CEGUI::Window* CeGuiMainFrame::FirstToolButton()
+CEGUI::Window* CeGuiMainFrame::ToolButton(int number)
 {
     const CeGuiToolBar* bar = FindBar(FrameNames::ToolBar);
-    return bar && !bar->items.empty() ? bar->items.front().window : nullptr;
+    const std::size_t index = static_cast<std::size_t>(number) - 1;
+    return bar && index < bar->items.size() ? bar->items[index].window : nullptr;
 }
 
 void CeGuiMainFrame::SubscribeSlidingBar(CeGuiToolBar& bar)

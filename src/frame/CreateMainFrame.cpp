@@ -2,10 +2,13 @@
 // The building of the whole frame, and the bars that it is made of.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../panels/HoverEvents.h"
+#include "../panels/TooltipEvents.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/Names.h"
+#include "../widgets/ParsingLocale.h"
 #include "../widgets/WindowNames.h"
 #include "FrameNames.h"
 #include "RootEvents.h"
@@ -35,6 +38,7 @@ bool CeGuiMainFrame::CreateMainFrame()
     {
         throw CEGUI::AlreadyExistsException("the frame stands already; ClearAllWindows takes it away");
     }
+    const ParsingLocale locale;
     MakeContextCurrent();
     ReleaseBars();
     try
@@ -50,6 +54,7 @@ bool CeGuiMainFrame::CreateMainFrame()
         CreateBottomToolBar();
         CreateLeftList();
         RestoreFrameState();
+        RefreshPropertyDlg();
         Gui().markAsDirty();
         return true;
     }
@@ -78,11 +83,15 @@ void CeGuiMainFrame::RestoreFrameState()
     if (!showLeftToolBar_)
     {
         showLeftToolBar_ = true;
-        OnToolBarRCList(FirstToolButton());
+        OnToolBarRCList(ToolButton(FrameNames::ListTool));
     }
     if (currentButton_ >= 0)
     {
         ChangeLeftBtnState(-1, currentButton_, true);
+    }
+    if (propertyDlgOpen_)
+    {
+        ShowPropertyTool(ToolButton(FrameNames::PropertyTool));
     }
     if (fullScene_)
     {
@@ -100,6 +109,14 @@ void CeGuiMainFrame::EnterBar(CeGuiToolBar& bar)
 {
     WindowNames::AddChild(*Gui().getRootWindow(), *bar.window);
     frameTable_[bar.name] = &bar;
+}
+
+void CeGuiMainFrame::AddItemEvents(CeGuiToolBar& bar)
+{
+    bar.itemEvents[CEGUI::Window::EventMouseMove] = OnGuiHover;
+    bar.itemEvents[CEGUI::Window::EventMouseEntersSurface] = OnTooltipShow;
+    bar.itemEvents[CEGUI::Window::EventMouseLeavesSurface] = OnTooltipHide;
+    bar.itemEvents[CEGUI::Window::EventMouseButtonDown] = OnItemPressed;
 }
 
 CeGuiToolBar* CeGuiMainFrame::FindBar(const CString& name)

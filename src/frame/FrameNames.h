@@ -18,5 +18,7 @@ constexpr const wchar_t* BottomBorder = L"TavBottomBorderBackground";
 constexpr const wchar_t* PictureTitle = L"TavTitleImgAndName";
 constexpr const wchar_t* ToolBar = L"TavBotCtrlFrame";
 constexpr const wchar_t* ToolButton = L"TavToolButtom_%d"; ///< counted from 1
+constexpr int ListTool = 1;
+constexpr int PropertyTool = 4;
 constexpr const wchar_t* LeftList = L"TavLeftCtrlFrame";
 } // namespace FrameNames

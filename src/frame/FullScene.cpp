@@ -72,6 +72,10 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
         tools->MoveBar({left, bottom - barHeight, left + width, bottom}, windowWidth_, windowHeight_);
         tools->triggerRect = {0, bottom - barHeight, tools->rect.right, height};
     }
+    if (propertyDlgOpen_)
+    {
+        RefreshPropertyDlg();
+    }
 }
 
 bool OnToggleFullScene(const CEGUI::EventArgs& args)

@@ -42,7 +42,7 @@ void CeGuiMainFrame::CreateTitleBar()
 {
     const RECT rect = {0, 0, static_cast<LONG>(windowWidth_), titleBarHeight_};
     CeGuiToolBar& bar = NewBar(rect, FrameNames::TitleBar, L"new_skin/topBG.png", BAR_TITLE);
-    bar.itemEvents[CEGUI::Window::EventMouseMove] = OnGuiHover;
+    AddItemEvents(bar);
     bar.SubscribeBarEvent(CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnGuiHover));
     for (const CEGUI::String& event :
          {CEGUI::Window::EventMouseClick, CEGUI::Window::EventMouseButtonDown, CEGUI::Window::EventMouseButtonUp})

@@ -9,6 +9,7 @@
 #include "../widgets/FileImageset.h"
 #include "../widgets/GuiImageCodec.h"
 #include "../widgets/Names.h"
+#include "../widgets/ParsingLocale.h"
 #include "CeGuiEventHandler.h"
 #include "SkinResourceProvider.h"
 
@@ -91,6 +92,7 @@ const char* CeGuiDrawable::className() const
 
 void CeGuiDrawable::Init(int contextId)
 {
+    const ParsingLocale locale;
     try
     {
         SetupCeGui();

@@ -185,6 +185,16 @@ void CeGuiMainFrame::getPropertyData(PropertyRows& rows)
     rows = propertyData_;
 }
 
+int CeGuiMainFrame::PropertyRowCount() const
+{
+    return static_cast<int>(propertyData_.size());
+}
+
+CString CeGuiMainFrame::PropertyRowName(int row) const
+{
+    return row >= 0 && row < PropertyRowCount() ? propertyData_[static_cast<std::size_t>(row)].first : CString();
+}
+
 void CeGuiMainFrame::setTargetData(PropertyRows& rows)
 {
     targetData_ = rows;

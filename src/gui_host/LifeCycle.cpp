@@ -5,6 +5,7 @@
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
+#include "../widgets/ParsingLocale.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/ImageManager.h>
@@ -85,6 +86,7 @@ void CeGuiMainFrame::ClearAllWindows()
     {
         return;
     }
+    const ParsingLocale locale;
     system->removeAllEvents();
     CeGuiToolBar::ForgetAllWindows();
     CEGUI::WindowManager::getSingleton().destroyAllWindows();

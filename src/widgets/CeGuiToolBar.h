@@ -72,7 +72,7 @@ public:
     bool ChangeItemImage(int index, CString imageFile, const RECT& rect);
     /// Gives a button other pictures, which have to be loaded but for the pushed one. Always true, also when nothing changed.
     /// @param down a toggle's down state: normal and pushed picture swap places
-    bool SetButtonImages(CEGUI::Window* button, CString normalFile, CString hoverFile, CString pushedFile, bool down);
+    static bool SetButtonImages(CEGUI::Window* button, CString normalFile, CString hoverFile, CString pushedFile, bool down);
     bool SetItemImages(int index, CString normalFile, CString hoverFile, CString pushedFile, bool down);
 
     void SubscribeBarEvent(const CEGUI::String& eventName, const CEGUI::SubscriberSlot& subscriber);

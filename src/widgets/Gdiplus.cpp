@@ -26,6 +26,26 @@ Bitmap NewBitmap(int width, int height)
                         { return GdipCreateBitmapFromScan0(width, height, 0, PixelFormat32bppARGB, nullptr, bitmap); });
 }
 
+void FillExactly(GpBitmap* bitmap, ARGB color)
+{
+    UINT width = 0;
+    UINT height = 0;
+    GdipGetImageWidth(bitmap, &width);
+    GdipGetImageHeight(bitmap, &height);
+    const GpRect all = {0, 0, static_cast<INT>(width), static_cast<INT>(height)};
+    BitmapData locked = {};
+    if (GdipBitmapLockBits(bitmap, &all, ImageLockModeWrite, PixelFormat32bppARGB, &locked) != Ok)
+    {
+        return;
+    }
+    for (UINT row = 0; row < height; ++row)
+    {
+        auto* pixels = reinterpret_cast<ARGB*>(static_cast<BYTE*>(locked.Scan0) + std::ptrdiff_t(locked.Stride) * row);
+        std::fill(pixels, pixels + width, color);
+    }
+    GdipBitmapUnlockBits(bitmap, &locked);
+}
+
 FontFamily NewFontFamily(const wchar_t* name)
 {
     RequireGdiplus();

@@ -4,6 +4,7 @@
 #include "FailureLog.h"
 #include "Gdiplus.h"
 #include "ImageEncoder.h"
+#include "TextMeasurer.h"
 
 #include <KernelCommonUse/StringConvert.h>
 #include <NxConfig/SystemUtility.h>
@@ -16,46 +17,9 @@ namespace
 constexpr gp::ARGB TextBackground = 0x004D4D4A;
 constexpr int MeasureTextSizePixels = 16;
 
-/// The desktop's device context.
-class DesktopDc
-{
-public:
-    DesktopDc() : dc_(GetDC(GetDesktopWindow())) {}
-    ~DesktopDc()
-    {
-        if (dc_)
-        {
-            ReleaseDC(GetDesktopWindow(), dc_);
-        }
-    }
-    DesktopDc(const DesktopDc&) = delete;
-    DesktopDc& operator=(const DesktopDc&) = delete;
-    operator HDC() const { return dc_; }
-
-private:
-    HDC dc_;
-};
-
 CSize Measure(const CString& fontName, int pixels, const CString& text, gp::TextRenderingHint hint)
 {
-    if (fontName.IsEmpty() || text.IsEmpty())
-    {
-        return CSize(0, 0);
-    }
-    const gp::FontFamily family = gp::NewFontFamily(fontName);
-    const gp::Font font = gp::NewFont(family.get(), static_cast<float>(pixels));
-    const gp::StringFormat format = gp::NewStringFormat();
-    const DesktopDc dc;
-    const gp::Graphics graphics = gp::Make<gp::Graphics>([&](gp::GpGraphics** g) { return gp::GdipCreateFromHDC(dc, g); });
-    if (!font || !graphics)
-    {
-        return CSize(0, 0);
-    }
-    // The graphics object is this function's own, so its former settings go with it.
-    gp::SetQuality(graphics.get(), hint);
-    const gp::RectF unbounded = {0, 0, 0, 0};
-    gp::RectF box = {0, 0, 0, 0};
-    gp::GdipMeasureString(graphics.get(), text, text.GetLength(), font.get(), &unbounded, format.get(), &box, nullptr, nullptr);
+    const gp::RectF box = TextMeasurer(fontName, static_cast<float>(pixels), hint).Box(text);
     return CSize(static_cast<int>(std::ceil(box.Width)), static_cast<int>(std::ceil(box.Height)));
 }
 
@@ -79,10 +43,9 @@ bool DrawAndSave(const CString& path, UINT width, UINT height, const CString& fo
     {
         return false;
     }
+    gp::FillExactly(bitmap.get(), TextBackground);
     const gp::Graphics graphics = gp::GraphicsOf(bitmap.get());
     gp::SetQuality(graphics.get(), gp::TextRenderingHintAntiAlias);
-    // A fill would leave 0 here: what is fully transparent changes nothing in GDI+'s default compositing.
-    gp::GdipGraphicsClear(graphics.get(), TextBackground);
     if (font)
     {
         const gp::RectF layout = {0, 0, static_cast<float>(width), static_cast<float>(height)};
