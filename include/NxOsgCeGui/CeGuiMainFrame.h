@@ -106,6 +106,8 @@ public:
     CPoint GetMousePoint();
     /// False suppresses the scene's context menu once.
     void EnablePopupMenu(bool enable);
+    /// The window of the control button whose menu the user opened last; empty when there is none.
+    CString GetEditWindowName();
     /// Where the right button was last pressed, in view pixels.
     CPoint GetAddBtnMousePoint();
     void SetAddBtnMousePoint(CPoint point);
@@ -195,6 +197,10 @@ public:
     /// Gives the whole view to the scene, or the frame back. Camera, viewport and host window stay as they are.
     void OnToolBarFullScene(bool full);
 
+    /// Makes the viewer's OpenGL context current, as whatever makes or drops pictures of the interface needs it: between frames
+    /// no context is. False when there is none. It is not released here.
+    bool MakeContextCurrent();
+
     /// Posts `GUI_HOST_MESSAGE` to the viewer's window; without one the message lands in the calling thread's own queue.
     void NotifyHost(UINT code, LPARAM value);
 
@@ -209,8 +215,6 @@ private:
     CeGuiMainFrame(const CeGuiMainFrame&) = delete;
     CeGuiMainFrame& operator=(const CeGuiMainFrame&) = delete;
 
-    /// Makes the viewer's context current; false when there is none.
-    bool MakeContextCurrent();
     osgViewer::GraphicsWindow* ViewerWindow();
 
     CeGuiToolBar* FindBar(const CString& name);

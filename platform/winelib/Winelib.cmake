@@ -39,6 +39,21 @@ function(nx_use_dll target)
     endforeach()
 endfunction()
 
+# nx_add_resources(TARGET FILE.rc): Wine's own resource compiler, whose output the linker wrapper takes.
+function(nx_add_resources target file)
+    get_filename_component(source ${file} ABSOLUTE)
+    get_filename_component(name ${file} NAME_WE)
+    set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}.res)
+    file(GLOB parts CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/resources/*)
+    add_custom_command(OUTPUT ${compiled}
+        COMMAND wrc -I/usr/include/wine/wine/windows -o ${compiled} ${source}
+        DEPENDS ${source} ${parts} VERBATIM)
+    add_custom_target(${target}_resources DEPENDS ${compiled})
+    add_dependencies(${target} ${target}_resources)
+    target_link_libraries(${target} PRIVATE ${compiled})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${compiled})
+endfunction()
+
 # nx_add_program(NAME SOURCES...): a program NAME.exe.so, started through run_wine.sh.
 function(nx_add_program name)
     add_executable(${name} ${ARGN})

@@ -7,7 +7,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 build=$root/build
 packages=(wine wine64 libwine-dev wine64-tools g++ cmake ninja-build pkg-config libopenscenegraph-dev libcegui-mk2-dev
-    libglew-dev libglm-dev libgl1-mesa-dri xvfb xauth imagemagick libgtest-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core
+    libglew-dev libglm-dev libgl1-mesa-dri xvfb xauth imagemagick libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core
     dpkg-dev)
 
 say()
@@ -70,10 +70,10 @@ configure()
 build_targets()
 {
     say "building ${*:-everything}"
-    # Ninja's status lines, one in ten; whatever else it says is worth reading.
+    # Ninja's status lines, one in five; whatever else it says is worth reading.
     NINJA_STATUS='[%f/%t] ' ninja -C "$build" "$@" 2>&1 |
         awk '/^ninja: (Entering|no work)/ { next }
-             /^\[[0-9]+\/[0-9]+\] / && !/FAILED/ { if (++n % 10 == 0) { print "    " $0; fflush() } next }
+             /^\[[0-9]+\/[0-9]+\] / && !/FAILED/ { if (++n % 5 == 0) { print "    " $0; fflush() } next }
              { print; fflush() }' || fail "the build"
 }
 

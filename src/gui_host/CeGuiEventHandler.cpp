@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CeGuiEventHandler.h"
 
+#include "../control_buttons/ButtonEditing.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/InputState.h"
 #include "../widgets/Names.h"
@@ -55,6 +56,7 @@ bool Push(const Event& ea, Position mouse)
         mouseFlags.leftButton = true;
         input.windowUnderMouse.clear();
         Gui().injectMouseButtonDown(CEGUI::LeftButton);
+        ButtonEditing::PressLeft(input.mousePoint);
         break;
     case Event::RIGHT_MOUSE_BUTTON:
         mouseFlags.buttonHeld = true;
@@ -75,20 +77,22 @@ bool Release(const Event& ea, Position mouse, const osg::Object& object)
     std::cout << "release:" << object.getName() << ",button:" << ea.getButton() << " buttonMask:" << ea.getButtonMask()
               << std::endl;
     Gui().injectMousePosition(mouse.x, mouse.y);
-    InputState& input = InputState::Get();
     switch (ea.getButton())
     {
     case Event::LEFT_MOUSE_BUTTON:
         mouseFlags.buttonHeld = false;
         mouseFlags.leftButton = true;
         Gui().injectMouseButtonUp(CEGUI::LeftButton);
-        input.windowUnderMouse.clear();
+        ButtonEditing::ReleaseLeft();
+        InputState::Get().windowUnderMouse.clear();
         break;
     case Event::RIGHT_MOUSE_BUTTON:
         Gui().injectMouseButtonUp(CEGUI::RightButton);
         mouseFlags.buttonHeld = false;
         mouseFlags.leftButton = false;
-        input.windowUnderMouse.clear();
+        ButtonEditing::ReleaseRight();
+        // The menu's message loop may have closed the interface.
+        InputState::Get().windowUnderMouse.clear();
         break;
     default:
         break;
@@ -119,7 +123,8 @@ bool DoubleClick(const Event& ea, Position mouse)
 bool Move(Position mouse)
 {
     Gui().injectMousePosition(mouse.x, mouse.y);
-    return false;
+    const bool moving = mouseFlags.buttonEditMode && mouseFlags.buttonHeld && mouseFlags.leftButton;
+    return moving && ButtonEditing::Drag(InputState::Get().mousePoint);
 }
 
 bool Scroll(const Event& ea)

@@ -8,6 +8,7 @@
 #include "../widgets/Names.h"
 #include "HoverEvents.h"
 #include "PropertyPictures.h"
+#include "TallList.h"
 #include "TooltipEvents.h"
 
 #include <CEGUI/Exceptions.h>
@@ -176,12 +177,13 @@ bool CeGuiMainFrame::RefreshPropertyList(CeGuiToolBar* list)
     const LONG right = static_cast<LONG>(windowWidth_) - (fullScene_ ? 0 : borderWidth_);
     const LONG top = HeaderHeight + (fullScene_ ? 0 : titleBarHeight_);
     const RECT rect = {right - PanelWidth, top, right, top + listBodyHeight};
-    int height = 0;
-    const CString file = WriteList(propertyData_, listBodyHeight, height);
+    const int height = ListHeight(propertyData_, listBodyHeight);
     const RECT picturePlace = {0, 0, PanelWidth, height};
+    const bool tall = IsTallList(height);
+    const CString file = tall ? CString() : WriteList(propertyData_, height);
     if (!list)
     {
-        if (file.IsEmpty())
+        if (file.IsEmpty() && !tall)
         {
             return true;
         }
@@ -191,16 +193,29 @@ bool CeGuiMainFrame::RefreshPropertyList(CeGuiToolBar* list)
         bar.SubscribeItemEvent(picture, CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnGuiHover));
         bar.SubscribeItemEvent(picture, CEGUI::Window::EventMouseLeavesSurface, CEGUI::SubscriberSlot(&OnTooltipHide));
         EnterBar(bar);
+        if (tall)
+        {
+            ShowTallList(bar, propertyData_, height);
+        }
         return true;
     }
     list->ShowBar();
-    if (!file.IsEmpty())
+    if (!file.IsEmpty() || tall)
     {
         if (!EqualRect(&list->rect, &rect))
         {
             list->MoveBar(rect, windowWidth_, windowHeight_);
         }
-        list->ChangeItemImage(0, file, picturePlace);
+        RemoveTallList(*list);
+        if (tall)
+        {
+            list->PlaceItem(0, picturePlace);
+            ShowTallList(*list, propertyData_, height);
+        }
+        else
+        {
+            list->ChangeItemImage(0, file, picturePlace);
+        }
         UpdateThumb(*list);
     }
     return true;

@@ -87,10 +87,8 @@ public:
     }
 
     /// @return the file's bare name, empty on failure
-    CString Save(const wchar_t* pattern)
+    CString Save(const CString& file)
     {
-        CString file;
-        file.Format(pattern, SequenceNumber);
         const CString path = ResourceDirectory() + file;
         CLSID encoder;
         graphics_.reset();
@@ -111,6 +109,31 @@ private:
     gp::StringFormat format_;
     gp::SolidBrush brush_;
 };
+
+CString DrawRows(const CeGuiMainFrame::PropertyRows& rows, int firstRow, int height, const CString& file)
+{
+    Drawing drawing(height);
+    if (!drawing.IsReady())
+    {
+        return CString();
+    }
+    const int count = static_cast<int>(rows.size());
+    const TextMeasurer measurer(drawing.FontName(), FontPixels, gp::TextRenderingHintClearTypeGridFit);
+    const TextShortener shortener(measurer);
+    const int strips = (height + RowHeight - 1) / RowHeight;
+    for (int i = 0; i < strips; ++i)
+    {
+        const int top = RowHeight * i;
+        drawing.Slice(RowSlice, top);
+        if (firstRow + i < count)
+        {
+            const auto& [name, value] = rows[static_cast<std::size_t>(firstRow + i)];
+            drawing.Text(shortener.Fit(name, NameMaxWidth), NameX, top + TextInset);
+            drawing.Text(shortener.Fit(value, ValueMaxWidth), ValueX, top + TextInset);
+        }
+    }
+    return drawing.Save(file);
+}
 } // namespace
 
 namespace PropertyPictures
@@ -125,32 +148,27 @@ CString WriteFrame(int panelHeight)
     drawing.Slice(HeaderSlice, 0);
     drawing.Text(Translation("LKEY8"), CaptionX, CaptionY);
     drawing.Slice(FooterSlice, panelHeight - FooterHeight);
-    return drawing.Save(L"PropertyFormbackImage_%d.bmp");
+    CString file;
+    file.Format(L"PropertyFormbackImage_%d.bmp", SequenceNumber);
+    return drawing.Save(file);
 }
 
-CString WriteList(const CeGuiMainFrame::PropertyRows& rows, int minHeight, int& height)
+int ListHeight(const CeGuiMainFrame::PropertyRows& rows, int minHeight)
 {
-    const int count = static_cast<int>(rows.size());
-    height = std::max(RowHeight * count, minHeight);
-    Drawing drawing(height);
-    if (!drawing.IsReady())
-    {
-        return CString();
-    }
-    const TextMeasurer measurer(drawing.FontName(), FontPixels, gp::TextRenderingHintClearTypeGridFit);
-    const TextShortener shortener(measurer);
-    const int strips = (height + RowHeight - 1) / RowHeight;
-    for (int i = 0; i < strips; ++i)
-    {
-        const int top = RowHeight * i;
-        drawing.Slice(RowSlice, top);
-        if (i < count)
-        {
-            const auto& [name, value] = rows[static_cast<std::size_t>(i)];
-            drawing.Text(shortener.Fit(name, NameMaxWidth), NameX, top + TextInset);
-            drawing.Text(shortener.Fit(value, ValueMaxWidth), ValueX, top + TextInset);
-        }
-    }
-    return drawing.Save(L"PropertyImage_%d.bmp");
+    return std::max(RowHeight * static_cast<int>(rows.size()), minHeight);
+}
+
+CString WriteList(const CeGuiMainFrame::PropertyRows& rows, int height)
+{
+    CString file;
+    file.Format(L"PropertyImage_%d.bmp", SequenceNumber);
+    return DrawRows(rows, 0, height, file);
+}
+
+CString WriteListPart(const CeGuiMainFrame::PropertyRows& rows, int firstRow, int height, int part)
+{
+    CString file;
+    file.Format(L"PropertyImage_%d_%d.bmp", SequenceNumber, part);
+    return DrawRows(rows, firstRow, height, file);
 }
 } // namespace PropertyPictures

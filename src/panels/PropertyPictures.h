@@ -17,9 +17,15 @@ constexpr int FooterHeight = 10;
 /// @return the file's name as an imageset; empty on failure (logged)
 CString WriteFrame(int panelHeight);
 
-/// Rows of names and values, on row backgrounds down to the picture's end.
-/// @param minHeight of the picture
-/// @param height the picture's height: the rows' or the minimum, whichever is more
+/// The height of a list: its rows' or the minimum, whichever is more.
+int ListHeight(const CeGuiMainFrame::PropertyRows& rows, int minHeight);
+
+/// A whole list: rows of names and values, on row backgrounds down to the picture's end.
+/// @param height of the picture
 /// @return the file's name as an imageset; empty on failure (logged)
-CString WriteList(const CeGuiMainFrame::PropertyRows& rows, int minHeight, int& height);
+CString WriteList(const CeGuiMainFrame::PropertyRows& rows, int height);
+
+/// A stretch of a list, from a row on, into a file of its own.
+/// @param part number in the file's name
+CString WriteListPart(const CeGuiMainFrame::PropertyRows& rows, int firstRow, int height, int part);
 } // namespace PropertyPictures

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CeGuiToolBar.h"
 
-#include "FailureLog.h"
 #include "FileImageset.h"
 #include "Names.h"
 #include "TextPicture.h"
@@ -35,18 +34,6 @@ CEGUI::UDim Relative(float scale)
 CEGUI::Image* CreateImageset(const CString& file)
 {
     return file.IsEmpty() ? nullptr : &FileImagesets::Create(file);
-}
-
-void ApplyButtonImages(CEGUI::Window& button, const CEGUI::Image& normal, const CEGUI::Image& hover, const CEGUI::Image& pushed)
-{
-    FileImagesets::Apply(button, "NormalImage", normal);
-    FileImagesets::Apply(button, "HoverImage", hover);
-    FileImagesets::Apply(button, "PushedImage", pushed);
-}
-
-void LogDropped(const char* what, const CString& name, const CEGUI::Exception& dropped)
-{
-    LogFailure(std::string(what) + " (" + NameBytes(dropped.getMessage()) + ")", CString2string(name));
 }
 } // namespace
 
@@ -164,7 +151,7 @@ int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString h
         item.window->setSize(CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
         if (normal)
         {
-            ApplyButtonImages(*item.window, *normal, hover ? *hover : *normal, pushed ? *pushed : *normal);
+            FileImagesets::ApplyToButton(*item.window, *normal, hover ? *hover : *normal, pushed ? *pushed : *normal);
         }
     }
     catch (...)
@@ -238,54 +225,14 @@ int CeGuiToolBar::AddTextImage(const RECT& place, CString itemName, CString text
     return file.IsEmpty() ? -1 : AddStaticImage(place, itemName, file);
 }
 
-bool CeGuiToolBar::ChangeItemImage(int index, CString imageFile, const RECT& place)
+void CeGuiToolBar::PlaceItem(int index, const RECT& place)
 {
     ToolBarItem* item = ItemAt(index);
-    if (!item || !item->window || imageFile.IsEmpty())
+    if (item && item->window)
     {
-        return true;
-    }
-    try
-    {
-        FileImagesets::Destroy(imageFile);
-        const CEGUI::Image& image = FileImagesets::Create(imageFile);
         PlaceStaticItem(*item, place);
-        FileImagesets::Apply(*item->window, "Image", image);
-        item->window->invalidate();
         UpdateContentExtent();
     }
-    catch (const CEGUI::Exception& dropped)
-    {
-        LogDropped("picture of an item not changed", imageFile, dropped);
-    }
-    return true;
-}
-
-bool CeGuiToolBar::SetButtonImages(CEGUI::Window* button, CString normalFile, CString hoverFile, CString pushedFile, bool down)
-{
-    try
-    {
-        if (!button || normalFile.IsEmpty() || pushedFile.IsEmpty())
-        {
-            return true;
-        }
-        const CEGUI::Image& normal = FileImagesets::Get(normalFile);
-        const CEGUI::Image* hover = hoverFile.IsEmpty() ? nullptr : &FileImagesets::Get(hoverFile);
-        const CEGUI::Image& pushed = FileImagesets::GetImagesetFromFile(pushedFile);
-        const CEGUI::Image& atRest = down ? pushed : normal;
-        ApplyButtonImages(*button, atRest, hover ? *hover : atRest, down ? normal : pushed);
-    }
-    catch (const CEGUI::Exception& dropped)
-    {
-        LogDropped("pictures of a button not changed", normalFile, dropped);
-    }
-    return true;
-}
-
-bool CeGuiToolBar::SetItemImages(int index, CString normalFile, CString hoverFile, CString pushedFile, bool down)
-{
-    const ToolBarItem* item = ItemAt(index);
-    return !item || SetButtonImages(item->window, normalFile, hoverFile, pushedFile, down);
 }
 
 void CeGuiToolBar::SubscribeBarEvent(const CEGUI::String& eventName, const CEGUI::SubscriberSlot& subscriber)

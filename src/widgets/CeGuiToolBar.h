@@ -70,6 +70,8 @@ public:
 
     /// Reads a picture file that was rewritten and gives the item this rectangle (bar pixels). Always true.
     bool ChangeItemImage(int index, CString imageFile, const RECT& rect);
+    /// Gives an item this rectangle (bar pixels).
+    void PlaceItem(int index, const RECT& rect);
     /// Gives a button other pictures, which have to be loaded but for the pushed one. Always true, also when nothing changed.
     /// @param down a toggle's down state: normal and pushed picture swap places
     static bool SetButtonImages(CEGUI::Window* button, CString normalFile, CString hoverFile, CString pushedFile, bool down);

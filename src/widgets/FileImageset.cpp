@@ -157,4 +157,11 @@ void Apply(CEGUI::Window& window, const char* property, const CEGUI::Image& imag
 {
     window.setProperty(property, CEGUI::PropertyHelper<CEGUI::Image*>::toString(&image));
 }
+
+void ApplyToButton(CEGUI::Window& button, const CEGUI::Image& normal, const CEGUI::Image& hover, const CEGUI::Image& pushed)
+{
+    Apply(button, "NormalImage", normal);
+    Apply(button, "HoverImage", hover);
+    Apply(button, "PushedImage", pushed);
+}
 } // namespace FileImagesets

@@ -51,4 +51,5 @@ bool IsSkinImagesetPresent(const CEGUI::String& name);
 
 /// Sets an image property ("Image", "NormalImage", "HoverImage", "PushedImage") of a window.
 void Apply(CEGUI::Window& window, const char* property, const CEGUI::Image& image);
+void ApplyToButton(CEGUI::Window& button, const CEGUI::Image& normal, const CEGUI::Image& hover, const CEGUI::Image& pushed);
 } // namespace FileImagesets

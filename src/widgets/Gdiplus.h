@@ -62,7 +62,8 @@ Owner Make(Create create)
 
 /// A bitmap of 32-bit ARGB, transparent black; null when it could not be had.
 Bitmap NewBitmap(int width, int height);
-/// Gives every pixel exactly this colour. Filling and clearing keep the colour of what is fully transparent on no GDI+.
+/// Gives every pixel exactly this colour. Neither filling nor clearing is sure to keep the colour of what is fully
+/// transparent.
 void FillExactly(GpBitmap* bitmap, ARGB color);
 /// The font family, or null when no such family is installed.
 FontFamily NewFontFamily(const wchar_t* name);

@@ -28,6 +28,7 @@ template struct FrameTableReach<&CeGuiMainFrame::frameTable_>;
 namespace
 {
 std::unique_ptr<GuiHost> host;
+int yOffset = 0;
 
 class HostLifeTime : public testing::Environment
 {
@@ -42,7 +43,7 @@ void Begin(GUIUserType userType, bool sized)
     host->Viewer().setReleaseContextAtEndOfFrameHint(false);
     sized ? host->Start(userType) : host->InitOnly(userType);
     // Tests click the same point faster than users do; a real double click comes as a message of its own.
-    CEGUI::System::getSingleton().getDefaultGUIContext().setMouseButtonMultiClickTimeout(0.0f);
+    CEGUI::System::getSingleton().getDefaultGUIContext().setMouseButtonMultiClickTimeout(1e-6f);
 }
 } // namespace
 
@@ -120,6 +121,7 @@ void FrameTest::SetUp()
     }
     host->MoveMouse(401, 300);
     host->MoveMouse(400, 300);
+    yOffset = frame.GetMousePoint().y - 300;
     host->TakeMessages();
     host->TakeMainWindowMessages();
     MakeContextCurrent();
@@ -154,11 +156,16 @@ void FrameTest::Show(const std::vector<BTN_UNIT>& records)
     host->MoveMouse(400, 300);
 }
 
+void FrameTest::MoveTo(int x, int y)
+{
+    host->MoveMouse(x, y - yOffset);
+}
+
 void FrameTest::SlideIn(int x, int y)
 {
     host->MoveMouse(400, 301);
     host->MoveMouse(400, 300);
-    host->MoveMouse(x, y);
+    MoveTo(x, y);
 }
 
 CeGuiToolBar& FrameTest::Bar(const wchar_t* name)

@@ -39,7 +39,10 @@ protected:
     static void Rebuild();
     /// Builds the frame anew with these records.
     static void Show(const std::vector<BTN_UNIT>& records);
-    /// Moves the mouse over a bar from outside of it, which slides the bar in.
+    /// Moves the mouse to where the library takes it to be at this point. Its y is the view's height less the viewer's y,
+    /// which is 0 in the last row: a pixel more than the window's.
+    static void MoveTo(int x, int y);
+    /// The same from the middle of the view, which slides a bar in that is there.
     static void SlideIn(int x, int y);
 
     /// A bar of the frame, by its window's name. There is no public way to it.

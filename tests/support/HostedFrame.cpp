@@ -75,7 +75,7 @@ void HostedFrame::Rebuild()
 
 void HostedFrame::MakeCurrent()
 {
-    Host().Viewer().getCamera()->getGraphicsContext()->makeCurrent();
+    bool ok = Host().Viewer().getCamera()->getGraphicsContext()->makeCurrent(); printf("mc %d %s\n", ok, glGetString(GL_VERSION));
 }
 
 CEGUI::Window& HostedFrame::Window(const char* name)

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "ButtonEditing.h"
+
+#include "../widgets/InputState.h"
+#include "../widgets/Names.h"
+#include "../widgets/WindowNames.h"
+#include "PopupMenus.h"
+
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include <CEGUI/Window.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace
+{
+const CEGUI::String ButtonPrefix = "TavGuiButton_";
+/// A press that moves further than this does not choose the button. View pixels.
+constexpr int ClickTolerance = 10;
+
+CPoint pressPoint;
+
+CeGuiMainFrame& Frame()
+{
+    return *CeGuiMainFrame::GetInstance();
+}
+
+bool IsButtonName(const CEGUI::String& name)
+{
+    return name.compare(0, ButtonPrefix.length(), ButtonPrefix) == 0;
+}
+} // namespace
+
+namespace ButtonEditing
+{
+void PressLeft(CPoint mouse)
+{
+    if (Frame().GetUser() == GUI_USER_RESTRICTED)
+    {
+        return;
+    }
+    InputState& input = InputState::Get();
+    mouseFlags.pressConsumed = false;
+    // The press itself has cleared the name under the mouse, so this finds none unless a slot has set it again: on purpose,
+    // buttons stay where they are.
+    if (input.windowUnderMouse.find(ButtonPrefix) != CEGUI::String::npos)
+    {
+        mouseFlags.pressConsumed = mouseFlags.buttonEditMode;
+        mouseFlags.buttonEditMode = true;
+        input.editedWindow = input.windowUnderMouse;
+        pressPoint = mouse;
+    }
+    else
+    {
+        input.editedWindow.clear();
+        mouseFlags.buttonEditMode = false;
+    }
+}
+
+bool Drag(CPoint mouse)
+{
+    const InputState& input = InputState::Get();
+    if (Frame().GetUser() == GUI_USER_RESTRICTED || !IsButtonName(input.editedWindow))
+    {
+        return false;
+    }
+    Frame().SetDisplySystemMouse(true);
+    CEGUI::Window* window = WindowNames::Find(input.editedWindow);
+    if (!window)
+    {
+        return false;
+    }
+    UINT width = 0;
+    UINT height = 0;
+    Frame().GetWindowSize(width, height);
+    CEGUI::UVector2 position = window->getPosition();
+    position.d_x.d_scale = static_cast<float>(static_cast<double>(input.grabOffset + mouse.x) / width);
+    window->setPosition(position);
+
+    std::vector<BTN_UNIT>& records = Frame().GetCtrlBtnInfo();
+    const CString name = TextOfName(input.editedWindow);
+    const auto record =
+        std::find_if(records.begin(), records.end(), [&](const BTN_UNIT& candidate) { return candidate.name == name; });
+    if (record != records.end())
+    {
+        record->value = static_cast<float>(width) * position.d_x.d_scale;
+    }
+    if (std::abs(mouse.x - pressPoint.x) > ClickTolerance)
+    {
+        mouseFlags.pressConsumed = true;
+    }
+    return true;
+}
+
+void ReleaseLeft()
+{
+    if (Frame().GetUser() == GUI_USER_RESTRICTED)
+    {
+        return;
+    }
+    InputState& input = InputState::Get();
+    if (!input.windowUnderMouse.empty() && mouseFlags.buttonEditMode)
+    {
+        Frame().RefreshButton(GUI_BTN_ALL);
+        input.editedWindow.clear();
+    }
+    mouseFlags.pressConsumed = false;
+    mouseFlags.buttonEditMode = false;
+}
+
+void ReleaseRight()
+{
+    // By value: a menu runs a message loop of its own, in which the host may do anything.
+    const CEGUI::String underMouse = InputState::Get().windowUnderMouse;
+    if (underMouse.empty() && InputState::Get().contextMenuAllowed)
+    {
+        ShowSceneMenu();
+        InputState::Get().editedWindow = underMouse;
+    }
+    else if (Frame().GetUser() == GUI_USER_FULL)
+    {
+        if (mouseFlags.buttonEditMode && !mouseFlags.leftButton)
+        {
+            InputState::Get().editedWindow.clear();
+            mouseFlags.buttonEditMode = false;
+        }
+        if (IsButtonName(underMouse))
+        {
+            ShowButtonMenu();
+            InputState::Get().editedWindow = underMouse;
+        }
+    }
+    InputState::Get().contextMenuAllowed = true;
+}
+} // namespace ButtonEditing
+
+CString CeGuiMainFrame::GetEditWindowName()
+{
+    return TextOfName(InputState::Get().editedWindow);
+}

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// The files that texts are drawn into, and failures.
+#include "Sheet.h"
+
+#include <widgets/TextPicture.h>
+
+#include <algorithm>
+
+namespace
+{
+const wchar_t* const Latin = L"DejaVu Sans";
+
+class TextPictureFile : public SheetTest
+{
+protected:
+    static CString Path(const wchar_t* name) { return SkinDir() + name; }
+    static bool Exists(const CString& path) { return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES; }
+};
+} // namespace
+
+TEST_F(TextPictureFile, each_extension_writes_its_kind_of_file)
+{
+    const struct
+    {
+        const wchar_t* name;
+        std::vector<std::uint8_t> start;
+    } rows[] = {{L"k.bmp", {'B', 'M'}},       {L"k.jpeg", {0xFF, 0xD8}}, {L"k.jpg", {0xFF, 0xD8}},
+                {L"k.gif", {'G', 'I', 'F'}},  {L"k.tiff", {'I', 'I'}},   {L"k.png", {0x89, 'P', 'N', 'G'}},
+                {L"k2.PNG", {0x89, 'P', 'N', 'G'}}, {L"k2.Bmp", {'B', 'M'}}};
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(Utf8(row.name));
+        EXPECT_TRUE(DrawTextToImageFile(Path(row.name), 40, 30, Latin, 20, 0, L"x"));
+        const std::vector<std::uint8_t> bytes = ReadBytes(Path(row.name));
+        ASSERT_GT(bytes.size(), 4u);
+        EXPECT_TRUE(std::equal(row.start.begin(), row.start.end(), bytes.begin()));
+        EXPECT_EQ(ReadPictureFile(Path(row.name)).width, 40);
+        EXPECT_EQ(ReadPictureFile(Path(row.name)).height, 30);
+        EXPECT_FALSE(Exists(Path(row.name) + L".part"));
+    }
+}
+
+TEST_F(TextPictureFile, refused_calls_write_nothing_and_leave_the_former_file)
+{
+    const std::vector<std::uint8_t> former = {'f', 'o', 'r', 'm', 'e', 'r'};
+    const struct
+    {
+        const char* why;
+        const wchar_t *name, *font;
+        UINT width;
+    } rows[] = {
+        {"no font", L"r.bmp", L"", 40},  {"a tif", L"r.tif", Latin, 40},     {"a TIF", L"r.TIF", Latin, 40},
+        {"unknown", L"r.ico", Latin, 40}, {"no extension", L"r", Latin, 40}, {"no width", L"r.bmp", Latin, 0},
+    };
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.why);
+        const CString path = Path(row.name);
+        DeleteFileW(path);
+        EXPECT_FALSE(DrawTextToImageFile(path, row.width, 30, row.font, 20, 0, L"x"));
+        EXPECT_FALSE(Exists(path));
+        ASSERT_TRUE(WriteBytes(path, former));
+        EXPECT_FALSE(DrawTextToImageFile(path, row.width, 30, row.font, 20, 0, L"x"));
+        EXPECT_EQ(ReadBytes(path), former);
+        EXPECT_FALSE(Exists(path + L".part"));
+        EXPECT_EQ(TakeLog(), Lines(2, "NxOsgCeGui: text picture not written: " + Utf8(path)));
+    }
+    EXPECT_FALSE(DrawTextToImageFile(L"", 40, 30, Latin, 20, 0, L"x"));
+    EXPECT_EQ(TakeLog().size(), 1u);
+}
+
+TEST_F(TextPictureFile, folder_that_does_not_exist_fails)
+{
+    for (const wchar_t* name : {L"no such folder\\a.bmp", L"no such folder\\a.png"})
+    {
+        EXPECT_FALSE(DrawTextToImageFile(Path(name), 40, 30, Latin, 20, 0, L"x"));
+        EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: text picture not written: " + Utf8(Path(name))});
+        EXPECT_FALSE(Exists(Path(name)));
+    }
+    EXPECT_FALSE(Exists(Path(L"no such folder")));
+}
+
+TEST_F(TextPictureFile, named_picture_lies_in_the_skin_directory_and_answers_its_bare_name)
+{
+    const struct
+    {
+        const wchar_t *name, *file;
+        const char* answer;
+    } rows[] = {
+        {L"named", L"named.bmp", "named.bmp"},
+        {L"标题", L"标题.bmp", "标题.bmp"},
+        {L"a.b", L"a.b.bmp", "a.b.bmp"},
+        // A folder is used, but the answer leaves it out.
+        {L"new_skin\\inner", L"new_skin\\inner.bmp", "inner.bmp"},
+    };
+    for (const auto& row : rows)
+    {
+        EXPECT_EQ(Utf8(CreateTextImageFile(50, 20, row.name, L"x", 16, Latin, 0)), row.answer);
+        const PictureFile file = ReadPictureFile(Path(row.file));
+        EXPECT_EQ(file.width, 50) << row.answer;
+        EXPECT_EQ(file.height, 20) << row.answer;
+    }
+}
+
+TEST_F(TextPictureFile, named_picture_that_fails_answers_nothing)
+{
+    EXPECT_TRUE(CreateTextImageFile(50, 20, L"refused", L"x", 16, L"", 0).IsEmpty());
+    EXPECT_TRUE(CreateTextImageFile(50, 20, L"none\\such", L"x", 16, Latin, 0).IsEmpty());
+    EXPECT_TRUE(CreateTextImageFile(50, 20, CString(L'x', 1000), L"x", 16, Latin, 0).IsEmpty());
+    EXPECT_EQ(TakeLog().size(), 3u);
+    EXPECT_FALSE(Exists(Path(L"refused.bmp")));
+}
+
+TEST_F(TextPictureFile, rewritten_text_replaces_the_former_picture)
+{
+    EXPECT_TRUE(DrawTextToImageFile(Path(L"again.bmp"), 100, 30, Latin, 20, 0, L"first"));
+    const std::vector<std::uint8_t> first = ReadBytes(Path(L"again.bmp"));
+    EXPECT_TRUE(DrawTextToImageFile(Path(L"again.bmp"), 100, 30, Latin, 20, 0, L"second"));
+    const std::vector<std::uint8_t> second = ReadBytes(Path(L"again.bmp"));
+    EXPECT_EQ(first.size(), second.size());
+    EXPECT_NE(first, second);
+}
