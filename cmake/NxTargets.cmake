@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# nx_add_dll, nx_use_dll and nx_add_program: how this project's modules and programs are made. Winelib needs more than
+# nx_add_dll, nx_use_dll, nx_add_resources and nx_add_program: how this project's modules and programs are made. Winelib needs more than
 # CMake's own commands do; everywhere else they are just these.
 if(NX_WINELIB)
     include(${CMAKE_CURRENT_LIST_DIR}/../platform/winelib/Winelib.cmake)
@@ -9,6 +9,9 @@ else()
     endfunction()
     function(nx_use_dll target)
         target_link_libraries(${target} PRIVATE ${ARGN})
+    endfunction()
+    function(nx_add_resources target file)
+        target_sources(${target} PRIVATE ${file})
     endfunction()
     function(nx_add_program name)
         add_executable(${name} WIN32 ${ARGN})
