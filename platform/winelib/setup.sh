@@ -7,8 +7,8 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 build=$root/build
 packages=(wine wine64 libwine-dev wine64-tools g++ cmake ninja-build pkg-config libopenscenegraph-dev libcegui-mk2-dev
-    libglew-dev libglm-dev libgl1-mesa-dri xvfb xauth imagemagick libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core
-    dpkg-dev)
+    libglew-dev libglm-dev libgl1-mesa-dri libx11-dev libxcomposite1 libxcursor1 libxi6 libxrandr2 xvfb xauth imagemagick
+    libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core dpkg-dev)
 
 say()
 {

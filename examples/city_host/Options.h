@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <NxOsgCeGui/GuiTypes.h>
+
+#include <afxwin.h>
+
+namespace host
+{
+
+/// What the command line asks for.
+struct Options
+{
+    CString tourFolder;                  ///< where the tour's pictures go; empty: a live window
+    CSize size = CSize(1280, 800);       ///< of the window, in pixels
+    GUIUserType user = GUI_USER_FULL;
+    CString language;                    ///< "zh-CN" or "en"; empty: what the parameters say
+    bool slideOut = false;               ///< bars slide out instead of vanishing
+    int samples = 0;                     ///< of multisampling; 0: none
+};
+
+/// @param error set to one line when the result is false
+bool ParseOptions(LPCWSTR commandLine, Options& options, CString& error);
+
+} // namespace host

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+#include "../Options.h"
+#include "../camera/OrbitCamera.h"
+#include "../camera/Roam.h"
+#include "../city/City.h"
+#include "../toast/Toasts.h"
+#include "../window/HostWindow.h"
+#include "Actions.h"
+#include "GuiMessage.h"
+#include "GuiSession.h"
+
+#include <chrono>
+#include <memory>
+#include <vector>
+
+namespace host
+{
+
+/// The host application: a window, a viewer with the city in it, the interface over it, and the loop that feeds all three.
+/// It draws when something has changed and sleeps otherwise.
+class CityHost : private HostWindowEvents
+{
+public:
+    /// @throws std::runtime_error without a window or context, CEGUI::Exception without a skin
+    explicit CityHost(const Options& options);
+    ~CityHost() override;
+
+    /// Turns until the user closes the host; gives the process's exit code.
+    int Run();
+    /// One turn of the loop: waiting messages, what they ask for, and a frame if anything has changed.
+    /// @return whether a frame was drawn
+    bool Step();
+    /// Whether the picture is going to change by itself.
+    bool IsBusy() const;
+    bool IsClosed() const { return closed_; }
+
+    CWnd* MainWindow() { return &window_.Main(); }
+    HostWindow& Window() { return window_; }
+    osgViewer::Viewer& Viewer() { return *viewer_; }
+    city::City& City() { return city_; }
+    OrbitCamera& Camera() { return camera_; }
+    Roam& Roaming() { return roam_; }
+    Toasts& Messages() { return *toasts_; }
+
+    void Close() { closed_ = true; }
+    void SwitchLanguage(const CString& language);
+    /// Where the camera starts.
+    static CameraPose HomePose();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void OnGuiMessage(UINT code, LPARAM value) override;
+    void OnInput() override;
+    void OnExpose() override;
+    void OnKey(UINT virtualKey) override;
+    void OnTimer(UINT_PTR id) override;
+    void OnMouseMove(UINT flags, CPoint point) override;
+    void OnModalTick() override;
+    void OnCloseRequest() override { closed_ = true; }
+    bool IsTitleHandle(CPoint point) const override;
+    bool HasResizeEdges() const override;
+
+    void BuildScene();
+    void Pump();
+    void CarryOut();
+    void CarryOut(const GuiMessage& message);
+    bool Advance();
+    bool Draw();
+    void NeedFrames(int count);
+    void Sleep() const;
+
+    Options options_;
+    bool closed_ = false;
+    bool inFrame_ = false;
+    int framesDue_ = 0;
+    Clock::time_point lastAdvance_ = Clock::now();
+    Clock::time_point barsMayMoveUntil_ = Clock::now();
+    bool moving_ = false;
+    std::vector<GuiMessage> messages_;
+    std::vector<UINT> keys_;
+
+    city::City city_;
+    OrbitCamera camera_;
+    Roam roam_;
+    Actions actions_;
+    HostWindow window_;
+    osg::ref_ptr<osgViewer::Viewer> viewer_;
+    osg::ref_ptr<osg::Group> guiSlot_;
+    std::unique_ptr<Toasts> toasts_;
+    std::unique_ptr<GuiSession> gui_;
+};
+
+} // namespace host

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <NxOsgCeGui/CeGuiMainFrame.h>
+
+namespace host
+{
+
+/// The interface, from its start on a viewer to its end before the viewer goes away.
+class GuiSession
+{
+public:
+    /// @param viewer realised; outlives this
+    /// @param slot the group of the viewer's scene that the interface hangs under
+    /// @param slideOut whether bars slide out
+    GuiSession(osgViewer::Viewer& viewer, osg::Group& slot, GUIUserType user, bool slideOut);
+    ~GuiSession();
+    GuiSession(const GuiSession&) = delete;
+    GuiSession& operator=(const GuiSession&) = delete;
+
+    /// Ends the interface and starts it again with the texts of a language.
+    void Restart(const CString& language);
+
+    /// Whether a point, in view pixels, is a part of the title bar with nothing on it.
+    bool IsTitleHandle(CPoint point) const;
+
+private:
+    void Open();
+    void Close();
+
+    osgViewer::Viewer& viewer_;
+    osg::Group& slot_;
+    GUIUserType user_;
+};
+
+} // namespace host

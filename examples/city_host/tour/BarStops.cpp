@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "BarStops.h"
+
+#include "User.h"
+
+namespace host
+{
+namespace
+{
+
+// Of the interface's tool bar and left list, in view pixels.
+constexpr int FirstToolX = 62;
+constexpr int ToolDistance = 92;
+constexpr int ToolFromBottom = 45;
+constexpr int ListX = 74;
+constexpr int ListEntryY = 111;
+constexpr int EntryDistance = 109;
+/// Milliseconds, of the ten ticks of 30 that a bar takes; drawing the frame of the picture takes its share.
+constexpr DWORD PartOfASlide = 30;
+constexpr DWORD Flight = 1200;
+
+CPoint Centre(const User& user)
+{
+    return CPoint(user.ViewSize().cx / 2, user.ViewSize().cy / 2);
+}
+
+CPoint Tool(const User& user, int number)
+{
+    return CPoint(FirstToolX + (number - 1) * ToolDistance, user.ViewSize().cy - ToolFromBottom);
+}
+
+CPoint Entry(int number)
+{
+    return CPoint(ListX, ListEntryY + (number - 1) * EntryDistance);
+}
+
+void MoveAway(User& user)
+{
+    user.MoveTo(Centre(user));
+}
+
+template <int Number>
+void HoverTool(User& user)
+{
+    user.WaitForNotes();
+    user.MoveTo(Centre(user));
+    user.MoveTo(Tool(user, Number));
+}
+
+template <int Number>
+void HoldTool(User& user)
+{
+    HoverTool<Number>(user);
+    user.Press(Tool(user, Number));
+}
+
+/// Lets a held tool go between two tools, so that nothing is clicked.
+void ReleaseBetween(User& user)
+{
+    const CPoint between(FirstToolX + ToolDistance / 2, user.ViewSize().cy - ToolFromBottom);
+    user.MoveTo(between);
+    user.Release(between);
+    user.MoveTo(Centre(user));
+}
+
+void ClickEnvironment(User& user)
+{
+    HoverTool<3>(user);
+    user.Click(Tool(user, 3));
+    user.MoveTo(Centre(user));
+}
+
+void EndDay(User& user)
+{
+    // Evening, night and morning bring the noon back.
+    for (int i = 0; i < 3; ++i)
+    {
+        HoverTool<3>(user);
+        user.Click(Tool(user, 3));
+    }
+    user.MoveTo(Centre(user));
+    user.WaitForNotes();
+}
+
+void OpenList(User& user)
+{
+    user.WaitForNotes();
+    user.MoveTo(Centre(user));
+    user.MoveTo(CPoint(4, Centre(user).y));
+    user.MoveTo(CPoint(ListX, Centre(user).y));
+}
+
+void ScrollList(User& user)
+{
+    OpenList(user);
+    user.Wheel(CPoint(ListX, Centre(user).y), -12);
+}
+
+void ScrollBack(User& user)
+{
+    user.Wheel(CPoint(ListX, Centre(user).y), 40);
+    user.MoveTo(Centre(user));
+}
+
+void ChooseFourth(User& user)
+{
+    OpenList(user);
+    user.Click(Entry(4));
+    user.LetPass(Flight);
+}
+
+void PageDown(User& user)
+{
+    user.WaitForNotes();
+    user.MoveTo(Centre(user));
+    user.Key(VK_NEXT);
+    user.LetPass(Flight);
+    OpenList(user);
+}
+
+void HideList(User& user)
+{
+    HoverTool<1>(user);
+    user.Click(Tool(user, 1));
+}
+
+void SlideToolsOut(User& user)
+{
+    user.Key('S');
+    user.WaitForNotes();
+    HoverTool<2>(user);
+    user.Wait();
+    user.MoveTo(Centre(user));
+    user.LetPass(PartOfASlide);
+}
+
+void EndSliding(User& user)
+{
+    user.Wait();
+    user.Key('S');
+    user.WaitForNotes();
+}
+
+void Grow(User& user)
+{
+    user.WaitForNotes();
+    user.ResizeWindow(CSize(1920, 1080));
+    OpenList(user);
+}
+
+void Shrink(User& user)
+{
+    user.ResizeWindow(CSize(1280, 800));
+    user.MoveTo(Centre(user));
+}
+
+} // namespace
+
+std::vector<TourStop> BarStops()
+{
+    return {
+        {"tools-list", "The tool bar has slid in at the lower edge. The list's tool is down, since the list is on.", HoverTool<1>,
+         nullptr},
+        {"tools-list-pushed", "The list's tool held down shows its other picture.", HoldTool<1>, ReleaseBetween},
+        {"tools-roam", "The mouse over the roam tool, with its tooltip.", HoverTool<2>, nullptr},
+        {"tools-roam-pushed", "The roam tool held down.", HoldTool<2>, ReleaseBetween},
+        {"tools-environment", "The mouse over the effect-environment tool.", HoverTool<3>, nullptr},
+        {"tools-environment-pushed", "The effect-environment tool held down.", HoldTool<3>, ReleaseBetween},
+        {"tools-property", "The mouse over the display-properties tool.", HoverTool<4>, nullptr},
+        {"tools-property-pushed", "The display-properties tool held down.", HoldTool<4>, ReleaseBetween},
+        {"tools-data", "The mouse over the data-management tool.", HoverTool<5>, nullptr},
+        {"tools-data-pushed", "The data-management tool held down.", HoldTool<5>, ReleaseBetween},
+        {"tools-publish", "The mouse over the publish tool, which only the full user has.", HoverTool<6>, nullptr},
+        {"tools-publish-pushed", "The publish tool held down.", HoldTool<6>, ReleaseBetween},
+        {"evening", "The effect-environment tool was clicked: the evening has come.", ClickEnvironment, EndDay},
+        {"list", "The left list: one thumbnail for each view and video of the city.", OpenList, nullptr},
+        {"list-scrolled", "The list scrolled down with the wheel.", ScrollList, ScrollBack},
+        {"list-chosen", "The fourth entry was clicked: it is marked, and the camera has flown there.", ChooseFourth, nullptr},
+        {"list-page-down", "Page Down takes the next view.", PageDown, MoveAway},
+        {"list-off", "The list's tool was clicked: the list is off, and the tool shows it.", HideList, HideList},
+        {"slide-out", "With the slide-out setting on, the tool bar leaves at the lower edge; here it is on its way.",
+         SlideToolsOut, EndSliding, true},
+        {"list-1920x1080", "The left list in a window of 1920 x 1080.", Grow, Shrink},
+    };
+}
+
+} // namespace host

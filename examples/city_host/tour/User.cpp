@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "User.h"
+
+#include "../host/CityHost.h"
+
+#include <chrono>
+#include <stdexcept>
+
+namespace host
+{
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+/// Longer than anything takes here, software rendering included.
+constexpr std::chrono::seconds Patience(30);
+constexpr int QuietTurns = 3;
+constexpr DWORD TurnMilliseconds = 5;
+constexpr int DragSteps = 6;
+
+template <class Condition>
+void TurnUntil(CityHost& host, Condition condition)
+{
+    const Clock::time_point end = Clock::now() + Patience;
+    for (int quiet = 0; quiet < QuietTurns;)
+    {
+        quiet = !host.Step() && condition() ? quiet + 1 : 0;
+        if (Clock::now() > end)
+        {
+            throw std::runtime_error("the picture does not settle");
+        }
+        ::Sleep(TurnMilliseconds);
+    }
+}
+
+} // namespace
+
+User::User(CityHost& host) : host_(host)
+{
+    // The machine's own pointer would send moves of its own whenever the window changes under it.
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+}
+
+void User::Turn()
+{
+    host_.Step();
+}
+
+void User::Send(UINT message, WPARAM wParam, CPoint point)
+{
+    PostMessageW(host_.Window().View(), message, wParam, MAKELPARAM(point.x, point.y));
+    Turn();
+}
+
+void User::MoveTo(CPoint point)
+{
+    Send(WM_MOUSEMOVE, 0, point);
+}
+
+void User::Press(CPoint point)
+{
+    Send(WM_LBUTTONDOWN, MK_LBUTTON, point);
+}
+
+void User::Release(CPoint point)
+{
+    Send(WM_LBUTTONUP, 0, point);
+}
+
+void User::Click(CPoint point)
+{
+    MoveTo(point);
+    Press(point);
+    Release(point);
+}
+
+void User::DoubleClick(CPoint point)
+{
+    Click(point);
+    Send(WM_LBUTTONDBLCLK, MK_LBUTTON, point);
+    Release(point);
+}
+
+void User::Drag(CPoint from, CPoint to, bool rightButton)
+{
+    MoveTo(from);
+    Send(rightButton ? WM_RBUTTONDOWN : WM_LBUTTONDOWN, rightButton ? MK_RBUTTON : MK_LBUTTON, from);
+    for (int i = 1; i <= DragSteps; ++i)
+    {
+        Send(WM_MOUSEMOVE, rightButton ? MK_RBUTTON : MK_LBUTTON,
+             CPoint(from.x + (to.x - from.x) * i / DragSteps, from.y + (to.y - from.y) * i / DragSteps));
+    }
+    Send(rightButton ? WM_RBUTTONUP : WM_LBUTTONUP, 0, to);
+}
+
+void User::Wheel(CPoint point, int notches)
+{
+    MoveTo(point);
+    POINT screen = point;
+    ClientToScreen(host_.Window().View(), &screen);
+    const int step = notches < 0 ? -WHEEL_DELTA : WHEEL_DELTA;
+    for (int i = 0; i < (notches < 0 ? -notches : notches); ++i)
+    {
+        Send(WM_MOUSEWHEEL, MAKEWPARAM(0, step), CPoint(screen.x, screen.y));
+    }
+}
+
+void User::Key(UINT virtualKey)
+{
+    const LPARAM scanCode = static_cast<LPARAM>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)) << 16;
+    PostMessageW(host_.Window().View(), WM_KEYDOWN, virtualKey, scanCode | 1);
+    Turn();
+    PostMessageW(host_.Window().View(), WM_KEYUP, virtualKey, scanCode | static_cast<LPARAM>(0xC0000001));
+    Turn();
+}
+
+void User::ResizeWindow(CSize size)
+{
+    const HWND window = host_.Window().Main();
+    RECT now = {};
+    GetWindowRect(window, &now);
+    const CSize from(now.right - now.left, now.bottom - now.top);
+    constexpr int steps = 2;
+    for (int i = 1; i <= steps; ++i)
+    {
+        const CSize part(from.cx + (size.cx - from.cx) * i / steps, from.cy + (size.cy - from.cy) * i / steps);
+        MoveWindow(window, 0, 0, part.cx, part.cy, TRUE);
+        Turn();
+    }
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+    Wait();
+    if (ViewSize() != size)
+    {
+        throw std::runtime_error("the window did not take its size");
+    }
+}
+
+void User::RestoreWindow()
+{
+    ShowWindow(host_.Window().Main(), SW_RESTORE);
+    Turn();
+}
+
+void User::LetPass(DWORD milliseconds)
+{
+    const DWORD start = GetTickCount();
+    while (GetTickCount() - start < milliseconds)
+    {
+        Turn();
+        Sleep(1);
+    }
+}
+
+void User::Wait()
+{
+    TurnUntil(host_, [this] { return host_.IsClosed() || !host_.IsBusy(); });
+}
+
+void User::WaitForNotes()
+{
+    TurnUntil(host_, [this] { return host_.Messages().IsEmpty() && !host_.IsBusy(); });
+}
+
+CSize User::ViewSize() const
+{
+    return host_.Window().ViewSize();
+}
+
+} // namespace host

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <afxwin.h>
+
+namespace host
+{
+
+class CityHost;
+
+/// Somebody at the window: everything done here reaches the program as the system's own messages, and the program's loop
+/// turns after each. Points are view pixels, from the top left.
+class User
+{
+public:
+    /// @param host outlives this
+    explicit User(CityHost& host);
+
+    void MoveTo(CPoint point);
+    void Press(CPoint point);
+    void Release(CPoint point);
+    void Click(CPoint point);
+    void DoubleClick(CPoint point);
+    /// With the left or the right button held down.
+    void Drag(CPoint from, CPoint to, bool rightButton = false);
+    /// Positive notches away from the user.
+    void Wheel(CPoint point, int notches);
+    void Key(UINT virtualKey);
+    /// Drags the window to a size, as its edges do.
+    void ResizeWindow(CSize size);
+    /// As a click into the task bar does.
+    void RestoreWindow();
+
+    /// Lets the program go on for a while.
+    void LetPass(DWORD milliseconds);
+    /// Waits until nothing changes any more.
+    /// @throws std::runtime_error when that does not come
+    void Wait();
+    /// Waits until no note is left on the screen.
+    void WaitForNotes();
+
+    CSize ViewSize() const;
+
+private:
+    void Send(UINT message, WPARAM wParam, CPoint point);
+    void Turn();
+
+    CityHost& host_;
+};
+
+} // namespace host
