@@ -3,41 +3,6 @@
 
 CObject::~CObject() = default;
 
-CCmdTarget::~CCmdTarget() = default;
-
-CWnd::~CWnd()
-{
-    if (m_hWnd)
-    {
-        DestroyWindow(Detach());
-    }
-}
-
-BOOL CWnd::Attach(HWND window)
-{
-    if (m_hWnd || !window)
-    {
-        return FALSE;
-    }
-    m_hWnd = window;
-    return TRUE;
-}
-
-HWND CWnd::Detach()
-{
-    return std::exchange(m_hWnd, nullptr);
-}
-
-HWND CWnd::GetSafeHwnd() const
-{
-    return m_hWnd;
-}
-
-CWnd::operator HWND() const
-{
-    return m_hWnd;
-}
-
 CWinThread::~CWinThread() = default;
 
 BOOL CWinThread::InitInstance()
@@ -73,8 +38,16 @@ BOOL CWinThread::OnIdle(LONG)
     return FALSE;
 }
 
-BOOL CWinThread::PreTranslateMessage(MSG*)
+BOOL CWinThread::PreTranslateMessage(MSG* message)
 {
+    for (HWND window = message->hwnd; window; window = ::GetParent(window))
+    {
+        CWnd* object = CWnd::FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(message))
+        {
+            return TRUE;
+        }
+    }
     return FALSE;
 }
 
@@ -137,6 +110,12 @@ CWnd* AfxGetMainWnd()
 {
     CWinThread* thread = AfxGetThread();
     return thread ? thread->GetMainWnd() : nullptr;
+}
+
+BOOL AfxPreTranslateMessage(MSG* message)
+{
+    CWinThread* thread = AfxGetThread();
+    return thread && thread->PreTranslateMessage(message);
 }
 
 HINSTANCE AfxGetInstanceHandle()

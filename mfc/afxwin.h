@@ -2,29 +2,10 @@
 #pragma once
 
 #include "afx.h"
-
-class NX_MFC_EXPORT CCmdTarget : public CObject
-{
-public:
-    ~CCmdTarget() override;
-};
-
-// Holds a window it did not make: Detach before destruction, or the window is destroyed with the object.
-class NX_MFC_EXPORT CWnd : public CCmdTarget
-{
-public:
-    CWnd() = default;
-    ~CWnd() override;
-
-    // False when there is no window to attach or one is held already.
-    BOOL Attach(HWND window);
-    // The window held so far, null when there was none.
-    HWND Detach();
-    HWND GetSafeHwnd() const;
-    operator HWND() const;
-
-    HWND m_hWnd = nullptr;
-};
+#include "afxdd_.h"
+#include "afxmsg_.h"
+#include "cdialog.h"
+#include "cwnd.h"
 
 class NX_MFC_EXPORT CWinThread : public CCmdTarget
 {
@@ -37,6 +18,7 @@ public:
     virtual int ExitInstance();
     // Called with 0, 1, 2... while no message waits; false ends the calls until the next message has been handled.
     virtual BOOL OnIdle(LONG count);
+    // True: the message has been dealt with. Asks the windows from the message's own outwards, so that the keys of dialogs work.
     virtual BOOL PreTranslateMessage(MSG* message);
     virtual BOOL PumpMessage();
     virtual CWnd* GetMainWnd();
@@ -80,6 +62,9 @@ NX_MFC_EXPORT AFX_MODULE_STATE* AfxGetModuleState();
 NX_MFC_EXPORT CWinApp* AfxGetApp();
 NX_MFC_EXPORT CWinThread* AfxGetThread();
 NX_MFC_EXPORT CWnd* AfxGetMainWnd();
+
+// For a message loop of the host's own: what the application's PreTranslateMessage says. True: not to be dispatched.
+NX_MFC_EXPORT BOOL AfxPreTranslateMessage(MSG* message);
 
 // The process's own module until AfxWinInit or AfxSetResourceHandle said otherwise.
 NX_MFC_EXPORT HINSTANCE AfxGetInstanceHandle();

@@ -143,6 +143,9 @@ public:
 
     STAPAGE& GetStaPageParameter();
     void SetStaPageParameter(STAPAGE& parameter);
+    /// Sets the start page's parameters back to their defaults and prints its three lines onto its picture, which is written
+    /// to "exeFiles\pics\exeGuiImage.bmp" of the application directory. Without the picture the parameters alone are reset.
+    void ClearStaPageParameter();
 
     /// Rows of the property panel, in display order; `RefreshPropertyDlg` shows them.
     void setPropertyData(PropertyRows& rows);
@@ -183,6 +186,11 @@ public:
     /// Toggles the left list.
     /// @param button the CEGUI window of the tool that shows the state, or null
     void OnToolBarRCList(void* button);
+
+    /// Whether bars that hide by themselves slide out instead of vanishing: the tool bar, the left list, and the title bar in
+    /// full scene. Off at the start. The host has to run a timer 2022 and forward it to `OnTimer`; ten ticks take a bar out.
+    void EnableSlideOut(bool enable);
+    bool IsSlideOutEnabled() const;
 
     /// Stores the scene title's four properties and redraws it.
     /// @param color 0x00BBGGRR
@@ -268,6 +276,7 @@ private:
     bool propertyDlgOpen_ = false;
     bool showLeftToolBar_ = true;
     bool fullScene_ = false;
+    bool slideOut_ = false;
     PropertyRows propertyData_;
     PropertyRows targetData_;
     STAPAGE startPage_;

@@ -16,17 +16,8 @@ CString WithBackslash(const CString& path)
 
 CString ExecutableFolder()
 {
-    CString path;
-    // The function cuts what does not fit and then fills the whole buffer.
-    for (int size = MAX_PATH;; size *= 2)
-    {
-        const int length = static_cast<int>(GetModuleFileNameW(nullptr, path.GetBuffer(size), static_cast<DWORD>(size)));
-        path.ReleaseBuffer(length);
-        if (length < size)
-        {
-            return path.Left(path.ReverseFind(L'\\') + 1);
-        }
-    }
+    const CString path = ExecutablePath();
+    return path.Left(path.ReverseFind(L'\\') + 1);
 }
 
 struct AppPath
@@ -71,6 +62,21 @@ const Directories& TheDirectories()
     return directories;
 }
 } // namespace
+
+CString ExecutablePath()
+{
+    CString path;
+    // The function cuts what does not fit and then fills the whole buffer.
+    for (int size = MAX_PATH;; size *= 2)
+    {
+        const int length = static_cast<int>(GetModuleFileNameW(nullptr, path.GetBuffer(size), static_cast<DWORD>(size)));
+        path.ReleaseBuffer(length);
+        if (length < size)
+        {
+            return path;
+        }
+    }
+}
 
 unsigned int AppPathGeneration()
 {

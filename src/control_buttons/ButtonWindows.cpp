@@ -2,6 +2,7 @@
 // The windows of control buttons: their names, clicks and removal.
 #include "ButtonWindows.h"
 
+#include "../panels/TitleEditDialog.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
@@ -61,6 +62,10 @@ bool OnControlButtonClicked(const CEGUI::EventArgs& args)
         {
             return false;
         }
+    }
+    if (mouseFlags.leftButton)
+    {
+        CloseTitleEditDialog();
     }
     const CString name = TextOfName(WindowNames::Of(*window));
     const int kind = name.Right(SuffixLength) == PictureSuffix ? 0 : VideoKind;

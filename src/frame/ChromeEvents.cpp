@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ChromeEvents.h"
 
+#include "../panels/TitleEditDialog.h"
+
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
 #include <CEGUI/InputEvent.h>
@@ -24,6 +26,7 @@ void EditTitle()
     if (Frame().GetUser() == GUI_USER_FULL)
     {
         Frame().NotifyHost(GUI_CMD_EDIT_TITLE, 0);
+        OpenTitleEditDialog();
     }
 }
 } // namespace

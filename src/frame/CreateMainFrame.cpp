@@ -41,6 +41,7 @@ bool CeGuiMainFrame::CreateMainFrame()
     const ParsingLocale locale;
     MakeContextCurrent();
     ReleaseBars();
+    ForgetTold();
     try
     {
         CreateRootSheet();
@@ -61,7 +62,7 @@ bool CeGuiMainFrame::CreateMainFrame()
     catch (const CEGUI::Exception& failure)
     {
         ReleaseFailedFrame();
-        LogFailure("frame not built", NameBytes(failure.getMessage()));
+        LogPassing("frame not built", NameBytes(failure.getMessage()));
         throw;
     }
 }
@@ -74,6 +75,8 @@ void CeGuiMainFrame::CreateRootSheet()
     root->subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnToggleFullScene));
     root->subscribeEvent(CEGUI::Window::EventKeyDown, CEGUI::SubscriberSlot(&OnRootKeyDown));
     root->subscribeEvent(CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnRootMouseMove));
+    // What no window over the scene uses is the viewer's: CEGUI would count the sheet itself as having used the wheel.
+    root->setMousePassThroughEnabled(true);
     Gui().setRootWindow(root);
 }
 
@@ -89,6 +92,7 @@ void CeGuiMainFrame::RestoreFrameState()
     {
         ChangeLeftBtnState(-1, currentButton_, true);
     }
+    EnableSlideOut(slideOut_);
     if (propertyDlgOpen_)
     {
         ShowPropertyTool(ToolButton(FrameNames::PropertyTool));
@@ -109,6 +113,23 @@ void CeGuiMainFrame::EnterBar(CeGuiToolBar& bar)
 {
     WindowNames::AddChild(*Gui().getRootWindow(), *bar.window);
     frameTable_[bar.name] = &bar;
+}
+
+void CeGuiMainFrame::EnableSlideOut(bool enable)
+{
+    slideOut_ = enable;
+    for (const wchar_t* name : {FrameNames::TitleBar, FrameNames::ToolBar, FrameNames::LeftList})
+    {
+        if (CeGuiToolBar* bar = FindBar(name))
+        {
+            bar->slideOnHide = enable;
+        }
+    }
+}
+
+bool CeGuiMainFrame::IsSlideOutEnabled() const
+{
+    return slideOut_;
 }
 
 void CeGuiMainFrame::AddItemEvents(CeGuiToolBar& bar)

@@ -129,16 +129,22 @@ bool Move(Position mouse)
 
 bool Scroll(const Event& ea)
 {
-    // Against CEGUI's convention, in which up is positive, on purpose: the bars' scrolling counts on it.
+    float change = 0;
     switch (ea.getScrollingMotion())
     {
+    // Against CEGUI's convention, in which up is positive, on purpose: the bars' scrolling counts on it.
     case Event::SCROLL_UP:
-        return Gui().injectMouseWheelChange(-1.0f);
+        change = -1.0f;
+        break;
     case Event::SCROLL_DOWN:
-        return Gui().injectMouseWheelChange(1.0f);
+        change = 1.0f;
+        break;
     default:
         return false;
     }
+    const bool used = Gui().injectMouseWheelChange(change);
+    // The root sheet takes every wheel for its own, but over it the wheel is the scene's.
+    return used && Gui().getWindowContainingMouse() != Gui().getRootWindow();
 }
 
 bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)
@@ -208,13 +214,14 @@ bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg
     {
         return false;
     }
+    ForgetTold();
     try
     {
         return Dispatch(ea, aa, *object, mouse);
     }
     catch (const CEGUI::Exception& failure)
     {
-        LogFailure("event not carried out", NameBytes(failure.getMessage()));
+        LogPassing("event not carried out", NameBytes(failure.getMessage()));
     }
     catch (const std::exception& failure)
     {

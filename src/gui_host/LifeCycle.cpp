@@ -2,6 +2,7 @@
 // Start and end of the interface, and its link to the host's viewer and window.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../panels/TitleEditDialog.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
@@ -66,6 +67,10 @@ void CeGuiMainFrame::CloseGuiSystem()
     if (!initialised_)
     {
         return;
+    }
+    if (userType_ == GUI_USER_FULL)
+    {
+        CloseTitleEditDialog();
     }
     MakeContextCurrent();
     hudCamera_->removeChildren(0, hudCamera_->getNumChildren());

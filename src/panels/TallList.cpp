@@ -132,6 +132,9 @@ void ShowTallList(CeGuiToolBar& list, const CeGuiMainFrame::PropertyRows& rows, 
     item.setProperty("Image", "");
     // CEGUI keeps windows within the display's size unless they say otherwise; 0 is no limit.
     item.setMaxSize(CEGUI::USize(Relative(0), Relative(0)));
+    // A notch moves the thumb, and so most of such a list past its place: never more than leaves one row in sight.
+    const float place = static_cast<float>(list.rect.bottom - list.rect.top);
+    list.longestWheelStep = (place - RowHeight) / place;
     const OnItemMoved moved = {std::make_shared<Stretches>(list, rows, height)};
     item.subscribeEvent(CEGUI::Element::EventMoved, CEGUI::SubscriberSlot(moved));
     moved.stretches->Update();
@@ -139,6 +142,7 @@ void ShowTallList(CeGuiToolBar& list, const CeGuiMainFrame::PropertyRows& rows, 
 
 void RemoveTallList(CeGuiToolBar& list)
 {
+    list.longestWheelStep = 0;
     CEGUI::Window* item = list.items.empty() ? nullptr : list.items[0].window;
     if (!item)
     {

@@ -6,6 +6,7 @@
 #include "../widgets/FileImageset.h"
 #include "../widgets/Names.h"
 #include "../widgets/WindowNames.h"
+#include "TitleEditDialog.h"
 #include "TooltipPicture.h"
 
 #include <NxOsgCeGui/CeGuiMainFrame.h>
@@ -13,6 +14,7 @@
 #include <CEGUI/CoordConverter.h>
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/Renderer.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
@@ -39,7 +41,8 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
         return;
     }
     DestroyTooltipWindow();
-    if (text.IsEmpty() || !WriteTooltipPicture(text) || !MakeContextCurrent())
+    const int widest = static_cast<int>(CEGUI::System::getSingleton().getRenderer()->getMaxTextureSize());
+    if (text.IsEmpty() || !WriteTooltipPicture(text, widest) || !MakeContextCurrent())
     {
         return;
     }
@@ -50,6 +53,8 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
         const CSize size = TooltipSize(text);
         const float width = static_cast<float>(windowWidth_);
         const float height = static_cast<float>(windowHeight_);
+        // CEGUI keeps windows within the display's size unless they say otherwise; 0 is no limit.
+        window.setMaxSize(CEGUI::USize(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
         window.setSize(CEGUI::USize(CEGUI::UDim(size.cx / width, 0), CEGUI::UDim(size.cy / height, 0)));
         window.setPosition(CEGUI::UVector2(CEGUI::UDim(x / width, 0), CEGUI::UDim(y / height, 0)));
         FileImagesets::Apply(window, "Image", image);
@@ -108,5 +113,6 @@ bool OnTooltipHide(const CEGUI::EventArgs&)
 
 bool OnItemPressed(const CEGUI::EventArgs& args)
 {
+    CloseTitleEditDialog();
     return OnTooltipHide(args);
 }

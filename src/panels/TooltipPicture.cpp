@@ -10,6 +10,7 @@
 #include <KernelCommonUse/StringConvert.h>
 #include <NxConfig/SystemUtility.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -24,7 +25,7 @@ constexpr gp::ARGB OutlineColor = 0xFF9799A8;
 constexpr gp::ARGB FillColor = 0xB0717A8C;
 constexpr gp::ARGB TextColor = 0xFFF1F1F1;
 
-bool DrawAndSave(const CString& text, const CString& path)
+bool DrawAndSave(const CString& text, int maxWidth, const CString& path)
 {
     const CString drawn = text.Left(MaxDrawnLength);
     const CString fontName = CMultiLanguageMgr::GetInstance()->translation("LKEY11", "", "Common");
@@ -35,7 +36,8 @@ bool DrawAndSave(const CString& text, const CString& path)
     }
     const gp::RectF box = TextMeasurer(fontName, FontPixels, gp::TextRenderingHintClearTypeGridFit).Box(drawn);
     const CSize logical = TooltipSize(text);
-    const int width = box.Width > logical.cx ? static_cast<int>(box.Width + Margins) : logical.cx;
+    const int wanted = box.Width > logical.cx ? static_cast<int>(box.Width + Margins) : logical.cx;
+    const int width = std::min(wanted, maxWidth);
     const int height = box.Height > Height ? static_cast<int>(box.Height + Margins) : Height;
     const gp::Bitmap bitmap = gp::NewBitmap(width, height);
     if (!bitmap)
@@ -73,10 +75,10 @@ CSize TooltipSize(const CString& text)
     return CSize(ByteWidth * bytes + SideMargins, Height);
 }
 
-bool WriteTooltipPicture(const CString& text)
+bool WriteTooltipPicture(const CString& text, int maxWidth)
 {
     const CString path = FileOp::GetAppPath() + SystemUtility::GetCeguiResRelPath() + TooltipPictureFile;
-    if (DrawAndSave(text, path))
+    if (DrawAndSave(text, maxWidth, path))
     {
         return true;
     }

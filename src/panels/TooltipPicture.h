@@ -12,5 +12,6 @@ constexpr const wchar_t* TooltipPictureFile = L"tavtooltipimgfile.bmp";
 CSize TooltipSize(const CString& text);
 
 /// Draws the tooltip of a text, of its first 100 characters if it has more, into its file.
+/// @param maxWidth of the picture, pixels: the largest texture's; a wider one is stretched when it is shown
 /// @return whether it was written; logged when not
-bool WriteTooltipPicture(const CString& text);
+bool WriteTooltipPicture(const CString& text, int maxWidth);

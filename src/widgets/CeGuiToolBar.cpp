@@ -261,6 +261,8 @@ void CeGuiToolBar::ShowBar()
 {
     if (window && !window->isVisible())
     {
+        // It may have been hidden by sliding out.
+        PlaceWindow(rect, screenWidth, screenHeight);
         window->show();
     }
 }

@@ -128,6 +128,7 @@ public:
     CEGUI::Vector2f lastMousePos;
     bool dragging = false;
     float contentExtent = 1.0f;  ///< height of the items' column in bar heights
+    float longestWheelStep = 0;  ///< the most that a notch moves the items, in bar heights; 0 for no limit
     bool slideOnHide = false;
     bool animating = false;
     UINT screenWidth;
@@ -143,6 +144,7 @@ private:
     void PlaceStaticItem(ToolBarItem& item, const RECT& place) const;
     bool ScrollBy(float step);
     void MoveItems(float y);
+    void MoveItemsWithThumb();
     ToolBarItem* ItemAt(int index);
     int Width() const { return rect.right - rect.left; }
     int Height() const { return rect.bottom - rect.top; }

@@ -19,11 +19,36 @@ void WriteLine(const std::string& line)
     }
     OutputDebugStringA((strUtf8ToAnsi(line) + "\n").c_str());
 }
+
+std::string& ToldMessage()
+{
+    static std::string message;
+    return message;
+}
 } // namespace
 
 void LogFailure(const std::string& what, const std::string& name)
 {
     WriteLine("NxOsgCeGui: " + what + ": " + name);
+}
+
+void LogRaised(const std::string& what, const std::string& name, const std::string& message)
+{
+    LogFailure(what, name);
+    ToldMessage() = message;
+}
+
+void ForgetTold()
+{
+    ToldMessage().clear();
+}
+
+void LogPassing(const std::string& what, const std::string& message)
+{
+    if (message != ToldMessage())
+    {
+        LogRaised(what, message, message);
+    }
 }
 
 void TakeServiceLog()

@@ -9,5 +9,14 @@
 /// @param name file or name that it failed on, UTF-8
 void LogFailure(const std::string& what, const std::string& name);
 
+/// The same for a failure that goes on as an exception: `message` is the exception's, and the places that it passes on its way
+/// out do not tell it again.
+void LogRaised(const std::string& what, const std::string& name, const std::string& message);
+
+/// For those places: one line with the exception's message, unless it has been told since the last `ForgetTold`, which
+/// such a place calls before it begins.
+void ForgetTold();
+void LogPassing(const std::string& what, const std::string& message);
+
 /// Sends the lines of the application's services to the same place, from now on.
 void TakeServiceLog();

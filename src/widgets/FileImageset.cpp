@@ -63,9 +63,9 @@ void Load(Imageset& imageset, const CEGUI::String& name)
         imageset.image->setArea(CEGUI::Rectf(0, 0, size.d_width, size.d_height));
         imageset.loaded = true;
     }
-    catch (const CEGUI::Exception&)
+    catch (const CEGUI::Exception& failure)
     {
-        LogFailure("picture not loaded", NameBytes(name));
+        LogRaised("picture not loaded", NameBytes(name), NameBytes(failure.getMessage()));
         MakeBlank(imageset);
         throw;
     }

@@ -11,12 +11,12 @@ class TextMeasurer
 public:
     /// @param pixels em height
     TextMeasurer(const CString& fontName, float pixels, gp::TextRenderingHint hint);
-    ~TextMeasurer();
+    virtual ~TextMeasurer();
     TextMeasurer(const TextMeasurer&) = delete;
     TextMeasurer& operator=(const TextMeasurer&) = delete;
 
     /// The text's box in pixels; 0 x 0 for an empty text, an empty or unknown font, or without a device context.
-    gp::RectF Box(const CString& text) const;
+    virtual gp::RectF Box(const CString& text) const;
 
 private:
     HDC dc_;

@@ -11,6 +11,8 @@
 #include <CEGUI/InputEvent.h>
 #include <CEGUI/Window.h>
 
+#include <algorithm>
+
 namespace
 {
 const char* const ImageButtonType = "TavLook/ImageButton";
@@ -90,6 +92,19 @@ void CeGuiToolBar::MoveItems(float y)
     }
 }
 
+void CeGuiToolBar::MoveItemsWithThumb()
+{
+    // From the thumb each time: what single steps round off would add up over a long list.
+    const float y = thumb->getYPosition().d_scale * contentExtent;
+    for (const ToolBarItem& item : items)
+    {
+        if (item.window)
+        {
+            SetY(*item.window, item.yScale - y);
+        }
+    }
+}
+
 bool CeGuiToolBar::ScrollBy(float step)
 {
     const float y = thumb->getYPosition().d_scale;
@@ -103,7 +118,7 @@ bool CeGuiToolBar::ScrollBy(float step)
         step = end - y;
     }
     SetY(*thumb, y + step);
-    MoveItems(-step * contentExtent);
+    MoveItemsWithThumb();
     return true;
 }
 
@@ -171,6 +186,11 @@ bool CeGuiToolBar::OnMouseWheel(const CEGUI::EventArgs& args)
     {
         return false;
     }
-    const float step = static_cast<const CEGUI::MouseEventArgs&>(args).wheelChange * WheelStep / static_cast<float>(Height());
+    float step = static_cast<const CEGUI::MouseEventArgs&>(args).wheelChange * WheelStep / static_cast<float>(Height());
+    if (longestWheelStep > 0)
+    {
+        const float longest = longestWheelStep / contentExtent;
+        step = std::max(-longest, std::min(step, longest));
+    }
     return step != 0 && ScrollBy(step);
 }

@@ -30,6 +30,10 @@ GuiHost* currentHost = nullptr;
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (currentHost && currentHost->onMainWindowMessage)
+    {
+        currentHost->onMainWindowMessage(message, wParam, lParam);
+    }
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
@@ -207,8 +211,11 @@ void GuiHost::Pump()
             (message.hwnd == main_ ? mainMessages_ : messages_).push_back({message.wParam, message.lParam});
             continue;
         }
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        if (!AfxPreTranslateMessage(&message))
+        {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
 }
 

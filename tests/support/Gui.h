@@ -9,6 +9,7 @@
 #include <osgViewer/Viewer>
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -103,6 +104,9 @@ public:
     CeGuiMainFrame& Frame() { return *CeGuiMainFrame::GetInstance(); }
     int Width() const { return width_; }
     int Height() const { return height_; }
+
+    /// Sees every message that the main window gets, while it lasts; a menu's among them.
+    std::function<void(UINT message, WPARAM wParam, LPARAM lParam)> onMainWindowMessage;
 
     /// A window by name; null when there is none.
     static CEGUI::Window* Find(const char* name);

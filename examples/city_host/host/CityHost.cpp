@@ -108,8 +108,12 @@ void CityHost::Pump()
             closed_ = true;
             return;
         }
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        // A dialog over the view has its keys first.
+        if (!AfxPreTranslateMessage(&message))
+        {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
 }
 

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+// The drawable: what it is, when it draws, how it ends.
+#include "support/HostedFrame.h"
+#include "support/NativeGl.h"
+
+#include <gui_host/CeGuiEventHandler.h>
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/Scheme.h>
+#include <CEGUI/ScriptModule.h>
+#include <CEGUI/System.h>
+#include <CEGUI/WindowManager.h>
+#include <CEGUI/falagard/WidgetLookManager.h>
+
+#include <osg/Notify>
+#include <osg/RenderInfo>
+#include <osg/State>
+
+#include <fstream>
+
+namespace
+{
+const Pixel red = {255, 0, 0};
+
+class DrawableTest : public HostedFrame
+{
+protected:
+    static osg::State& State() { return *Host().Viewer().getCamera()->getGraphicsContext()->getState(); }
+
+    /// Draws once with this state on a cleared screen, and reads the pixel where the close button stands.
+    static Pixel DrawWith(osg::State& state, const CeGuiDrawable& drawable)
+    {
+        MakeCurrent();
+        NativeGl::ClearScreen(red);
+        osg::RenderInfo info(&state, nullptr);
+        drawable.drawImplementation(info);
+        return BarPixel();
+    }
+
+    static Pixel BarPixel()
+    {
+        return NativeGl::ReadPixel(400, ViewHeight - 1 - 20);
+    }
+};
+
+/// The state under another context's id for the life of the object.
+class OtherContextId
+{
+public:
+    explicit OtherContextId(osg::State& state, unsigned int id = 77) : state_(state), former_(state.getContextID())
+    {
+        state_.setContextID(id);
+    }
+    ~OtherContextId() { state_.setContextID(former_); }
+
+private:
+    osg::State& state_;
+    unsigned int former_;
+};
+
+/// Collects what OSG reports.
+class Notices : public osg::NotifyHandler
+{
+public:
+    void notify(osg::NotifySeverity, const char* message) override { text += message; }
+    std::string text;
+};
+
+class NoticesTaken
+{
+public:
+    NoticesTaken() : former_(osg::getNotifyHandler()) { osg::setNotifyHandler(notices_); }
+    ~NoticesTaken() { osg::setNotifyHandler(former_); }
+    const std::string& Text() const { return notices_->text; }
+
+private:
+    osg::ref_ptr<osg::NotifyHandler> former_;
+    osg::ref_ptr<Notices> notices_ = new Notices;
+};
+} // namespace
+
+TEST_F(DrawableTest, first_draw_after_init_renders_nothing_and_the_second_renders)
+{
+    Host().Close();
+    Host().InitOnly();
+    CEGUI::System::getSingleton().notifyDisplaySizeChanged(CEGUI::Sizef(ViewWidth, ViewHeight));
+    ASSERT_TRUE(Frame().CreateMainFrame());
+    // In the title bar, away from its buttons and title.
+    EXPECT_EQ(Host().Shoot().At(400, 20), Background());
+    EXPECT_FALSE(Host().Shoot().At(400, 20) == Background());
+}
+
+TEST_F(DrawableTest, draws_in_its_own_context_and_in_no_other)
+{
+    EXPECT_FALSE(DrawWith(State(), Drawable()) == red);
+    {
+        const OtherContextId other(State());
+        EXPECT_EQ(DrawWith(State(), Drawable()), red);
+    }
+    EXPECT_FALSE(DrawWith(State(), Drawable()) == red);
+}
+
+TEST_F(DrawableTest, reports_gl_errors_of_its_own_context_under_its_name)
+{
+    MakeCurrent();
+    NativeGl::RaiseError();
+    NoticesTaken notices;
+    osg::RenderInfo info(&State(), nullptr);
+    Drawable().drawImplementation(info);
+    EXPECT_NE(notices.Text().find("CEGUIDrawable::drawImplementation"), std::string::npos) << notices.Text();
+    EXPECT_FALSE(NativeGl::TakeError());
+}
+
+TEST_F(DrawableTest, reports_gl_errors_in_the_skipped_first_draw_too)
+{
+    Host().Close();
+    Host().InitOnly();
+    MakeCurrent();
+    NativeGl::RaiseError();
+    NoticesTaken notices;
+    osg::RenderInfo info(&State(), nullptr);
+    Drawable().drawImplementation(info);
+    EXPECT_NE(notices.Text().find("CEGUIDrawable::drawImplementation"), std::string::npos) << notices.Text();
+}
+
+TEST_F(DrawableTest, leaves_gl_errors_of_another_context_alone)
+{
+    MakeCurrent();
+    const OtherContextId other(State());
+    NativeGl::RaiseError();
+    NoticesTaken notices;
+    osg::RenderInfo info(&State(), nullptr);
+    Drawable().drawImplementation(info);
+    EXPECT_EQ(notices.Text(), "");
+    EXPECT_TRUE(NativeGl::TakeError());
+}
+
+TEST_F(DrawableTest, draws_for_the_context_id_that_init_was_given)
+{
+    Host().Close();
+    MakeCurrent();
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    drawable->Init(41);
+    CEGUI::GUIContext& gui = CEGUI::System::getSingleton().getDefaultGUIContext();
+    int drawn = 0;
+    gui.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueStarted,
+                       CEGUI::Event::Subscriber([&drawn](const CEGUI::EventArgs&) { return ++drawn, true; }));
+    gui.setRootWindow(CEGUI::WindowManager::getSingleton().createWindow("DefaultWindow", "sheet"));
+    {
+        const OtherContextId its(State(), 41);
+        DrawWith(State(), *drawable);
+        EXPECT_EQ(drawn, 0);
+        DrawWith(State(), *drawable);
+        EXPECT_GT(drawn, 0);
+    }
+    const int before = drawn;
+    DrawWith(State(), *drawable);
+    EXPECT_EQ(drawn, before);
+    drawable->Finish();
+}
+
+TEST_F(DrawableTest, finish_twice_is_harmless)
+{
+    Host().Close();
+    MakeCurrent();
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    drawable->Init(0);
+    ASSERT_NE(CEGUI::System::getSingletonPtr(), nullptr);
+    drawable->Finish();
+    EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
+    drawable->Finish();
+    EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
+}
+
+TEST_F(DrawableTest, finish_of_a_drawable_that_was_never_initialised_touches_no_cegui)
+{
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    drawable->Finish();
+    EXPECT_NE(CEGUI::System::getSingletonPtr(), nullptr);
+    EXPECT_NE(Host().Find("TavTitleBackground"), nullptr);
+}
+
+TEST_F(DrawableTest, clone_has_no_renderer_no_system_and_no_context_id)
+{
+    const osg::ref_ptr<osg::Object> copy = Drawable().clone(osg::CopyOp::SHALLOW_COPY);
+    auto* clone = dynamic_cast<CeGuiDrawable*>(copy.get());
+    ASSERT_NE(clone, nullptr);
+    {
+        const OtherContextId other(State());
+        EXPECT_EQ(DrawWith(State(), *clone), red);
+    }
+    // It owns nothing that it could take down.
+    clone->Finish();
+    EXPECT_NE(CEGUI::System::getSingletonPtr(), nullptr);
+    EXPECT_FALSE(DrawWith(State(), Drawable()) == red);
+}
+
+TEST_F(DrawableTest, clone_copies_the_osg_drawable)
+{
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    drawable->setName("drawn");
+    const osg::ref_ptr<osg::Object> clone = drawable->clone(osg::CopyOp::SHALLOW_COPY);
+    EXPECT_EQ(clone->getName(), "drawn");
+    EXPECT_NE(clone.get(), drawable.get());
+}
+
+TEST_F(DrawableTest, assignment_shares_renderer_system_and_context_id)
+{
+    const osg::ref_ptr<CeGuiDrawable> second = new CeGuiDrawable;
+    *second = Drawable();
+    // The first-frame flag comes along, so the very first draw of the copy renders.
+    EXPECT_FALSE(DrawWith(State(), *second) == red);
+}
+
+TEST_F(DrawableTest, tells_osg_what_it_is)
+{
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    EXPECT_STREQ(drawable->libraryName(), "osg");
+    EXPECT_STREQ(drawable->className(), "CeGuiDrawable");
+    EXPECT_TRUE(drawable->isSameKindAs(&Drawable()));
+    EXPECT_FALSE(drawable->isSameKindAs(Frame().GetGUINode()));
+    EXPECT_FALSE(drawable->isSameKindAs(nullptr));
+    const osg::ref_ptr<osg::Object> another = drawable->cloneType();
+    EXPECT_NE(dynamic_cast<CeGuiDrawable*>(another.get()), nullptr);
+}
+
+TEST_F(DrawableTest, has_no_display_list_and_carries_the_input_bridge_as_its_event_callback)
+{
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    EXPECT_FALSE(drawable->getSupportsDisplayList());
+    EXPECT_NE(dynamic_cast<CeGuiEventHandler*>(drawable->getEventCallback()), nullptr);
+    EXPECT_EQ(drawable->getEventCallback()->referenceCount(), 1);
+}
+
+TEST_F(DrawableTest, skin_directory_is_the_default_group_of_everything_cegui_loads)
+{
+    EXPECT_EQ(CEGUI::Font::getDefaultResourceGroup(), "skindir");
+    EXPECT_EQ(CEGUI::Scheme::getDefaultResourceGroup(), "skindir");
+    EXPECT_EQ(CEGUI::ImageManager::getImagesetDefaultResourceGroup(), "skindir");
+    EXPECT_EQ(CEGUI::WidgetLookManager::getDefaultResourceGroup(), "skindir");
+    EXPECT_EQ(CEGUI::WindowManager::getDefaultResourceGroup(), "skindir");
+    EXPECT_EQ(CEGUI::ScriptModule::getDefaultResourceGroup(), "skindir");
+}
+
+TEST_F(DrawableTest, cegui_logs_to_cegui_log_in_the_working_directory)
+{
+    std::ifstream log("CEGUI.log");
+    const std::string text((std::istreambuf_iterator<char>(log)), {});
+    EXPECT_NE(text.find("CEGUI::Logger singleton created."), std::string::npos);
+    EXPECT_NE(text.find("OpenGLRenderer"), std::string::npos);
+    EXPECT_NE(text.find("'TavLook"), std::string::npos) << "the skin's types";
+}

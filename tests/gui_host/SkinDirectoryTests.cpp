@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// Where the skin is looked for.
+#include "support/HostedFrame.h"
+
+#include <NxConfig/ParamConfig.h>
+#include <NxConfig/SystemUtility.h>
+
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/System.h>
+
+#include <memory>
+
+namespace
+{
+class SkinDirectory : public HostedFrame
+{
+protected:
+    void SetUp() override
+    {
+        HostedFrame::SetUp();
+        Host().Close();
+    }
+    void TearDown() override
+    {
+        CParamConfig::getInstance()->setStringParam("CEGUI_SkinDir", "cegui\\TavLook\\");
+        TakeLog();
+        HostedFrame::TearDown();
+    }
+    static void Use(const char* directory) { CParamConfig::getInstance()->setStringParam("CEGUI_SkinDir", directory); }
+    static CString ResourceDir() { return AppDir() + SystemUtility::GetResourceRelPath(); }
+};
+} // namespace
+
+TEST_F(SkinDirectory, empty_parameter_yields_no_default_and_init_raises)
+{
+    Use("");
+    EXPECT_THROW(Frame().Init(&Host().Viewer(), GUI_USER_FULL), CEGUI::Exception);
+    EXPECT_FALSE(Frame().IsInit());
+    EXPECT_FALSE(Frame().GetGUINode().valid());
+    EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
+    EXPECT_EQ(CountLogLines("TavLookSkin.scheme"), 1) << "one line names the file";
+}
+
+TEST_F(SkinDirectory, init_works_once_the_parameter_is_back)
+{
+    Use("nowhere\\");
+    EXPECT_THROW(Frame().Init(&Host().Viewer(), GUI_USER_FULL), CEGUI::Exception);
+    Use("cegui\\TavLook\\");
+    Restart();
+    EXPECT_TRUE(Frame().IsInit());
+    EXPECT_NE(Host().Find("TavTitleBackground"), nullptr);
+    EXPECT_FALSE(Host().Shoot().At(400, 20) == Background());
+}
+
+TEST_F(SkinDirectory, is_application_and_resource_directory_alone_when_the_parameter_is_empty)
+{
+    std::vector<std::unique_ptr<FileReplaced>> copies;
+    for (const wchar_t* file : {L"TavLookSkin.scheme", L"TavLook.looknfeel", L"TavLook.imageset", L"TavLook.png"})
+    {
+        copies.push_back(std::make_unique<FileReplaced>(ResourceDir() + file, ReadBytes(SkinDir() + file)));
+    }
+    Use("");
+    EXPECT_TRUE(Frame().Init(&Host().Viewer(), GUI_USER_FULL));
+    EXPECT_TRUE(Frame().IsInit());
+}

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+// The picture of the panel's frame, and what happens when its template is missing.
+#include "PanelTest.h"
+
+using PanelPictureTest = PanelTest;
+
+namespace
+{
+/// How many pixels of a stretch are as bright as text.
+int BrightPixels(const PictureFile& picture, RECT area)
+{
+    int count = 0;
+    for (LONG y = area.top; y < area.bottom; ++y)
+    {
+        for (LONG x = area.left; x < area.right; ++x)
+        {
+            count += (picture.Argb(static_cast<int>(x), static_cast<int>(y)) & 0xFF) > 150;
+        }
+    }
+    return count;
+}
+} // namespace
+
+TEST_F(PanelPictureTest, header_and_footer_are_the_templates_slices)
+{
+    Open({});
+    const PictureFile panel = ReadPictureFile(PanelFile());
+    const PictureFile source = ReadPictureFile(TemplateFile());
+    ASSERT_EQ(panel.width, 260);
+    ASSERT_EQ(panel.height, 548);
+    EXPECT_TRUE(SamePixels(panel, 0, source, 0, 12)) << "above the caption";
+    EXPECT_TRUE(SamePixels(panel, 538, source, 64, 10)) << "footer";
+    // Beside the caption.
+    for (const int x : {0, 1, 8, 15, 120, 200, 259})
+    {
+        for (const int y : {0, 12, 20, 34})
+        {
+            EXPECT_EQ(panel.Argb(x, y), source.Argb(x, y)) << x << "," << y;
+        }
+    }
+}
+
+TEST_F(PanelPictureTest, the_body_is_transparent)
+{
+    Open({});
+    const PictureFile panel = ReadPictureFile(PanelFile());
+    for (const int y : {35, 36, 300, 537})
+    {
+        for (const int x : {0, 35, 130, 259})
+        {
+            EXPECT_EQ(panel.Argb(x, y) >> 24, 0u) << x << "," << y;
+        }
+    }
+}
+
+TEST_F(PanelPictureTest, the_caption_is_drawn_in_white_at_its_place)
+{
+    Open({});
+    const PictureFile panel = ReadPictureFile(PanelFile());
+    EXPECT_GT(BrightPixels(panel, {16, 12, 80, 34}), 60);
+    EXPECT_EQ(BrightPixels(panel, {3, 2, 16, 34}), 0) << "left of it";
+    EXPECT_EQ(BrightPixels(panel, {80, 2, 257, 34}), 0) << "right of it";
+}
+
+TEST_F(PanelPictureTest, the_caption_follows_the_language)
+{
+    Open({});
+    const PictureFile chinese = ReadPictureFile(PanelFile());
+    Frame().OpenPropertyDlg(nullptr, false);
+    const LanguageSpoken language("en");
+    Rebuild();
+    Frame().OpenPropertyDlg(nullptr, true);
+    const PictureFile english = ReadPictureFile(PanelFile());
+    EXPECT_FALSE(SamePixels(english, 0, chinese, 0, 35));
+    EXPECT_GT(BrightPixels(english, {16, 12, 120, 34}), 60);
+    EXPECT_TRUE(SamePixels(english, 35, chinese, 35, 513)) << "all else is the same";
+}
+
+TEST_F(PanelPictureTest, what_is_seen_is_the_picture_over_the_scene)
+{
+    Open({});
+    const PictureFile panel = ReadPictureFile(PanelFile());
+    const Screenshot shot = Host().Shoot();
+    for (const CPoint& point : {CPoint(3, 3), CPoint(130, 10), CPoint(250, 30), CPoint(130, 540), CPoint(20, 545)})
+    {
+        EXPECT_TRUE(LooksLike(shot.At(538 + point.x, 50 + point.y), Blend(panel.Argb(point.x, point.y), Background())))
+            << point.x << "," << point.y;
+    }
+}
+
+TEST_F(PanelPictureTest, drawn_anew_for_another_rectangle_only)
+{
+    Open({});
+    MakeOld(PanelFile());
+    Refresh(NumberedRows(3));
+    EXPECT_TRUE(IsOld(PanelFile())) << "the same rectangle";
+    Frame().OnToolBarFullScene(true);
+    EXPECT_FALSE(IsOld(PanelFile()));
+    EXPECT_EQ(ReadPictureFile(PanelFile()).height, 600);
+    MakeOld(PanelFile());
+    Frame().OnToolBarFullScene(false);
+    EXPECT_FALSE(IsOld(PanelFile()));
+    EXPECT_EQ(ReadPictureFile(PanelFile()).height, 548);
+    // What is shown has followed.
+    EXPECT_TRUE(LooksLike(Seen(668, 592), Blend(ReadPictureFile(TemplateFile()).Argb(130, 68), Background())));
+}
+
+TEST_F(PanelPictureTest, without_the_template_a_panel_is_not_made)
+{
+    FileTaken taken(TemplateFile());
+    DeleteFileW(ListFile());
+    Open(NumberedRows(3));
+    EXPECT_EQ(GuiHost::Find(PanelFrame), nullptr);
+    EXPECT_EQ(GuiHost::Find(ListFrame), nullptr);
+    EXPECT_TRUE(ReadBytes(ListFile()).empty());
+    EXPECT_TRUE(Frame().RefreshPropertyDlg()) << "open all the same";
+    EXPECT_GE(TakeLog().size(), 2u);
+    taken.PutBack();
+    EXPECT_TRUE(Frame().RefreshPropertyDlg());
+    EXPECT_TRUE(Visible(PanelFrame)) << "and made at the next refresh";
+    EXPECT_TRUE(Visible(ListFrame));
+}
+
+TEST_F(PanelPictureTest, without_the_template_the_old_pictures_stay)
+{
+    Open(NumberedRows(3));
+    const Pixel header = Seen(668, 60);
+    const Pixel row = Seen(668, 95);
+    {
+        FileTaken taken(TemplateFile());
+        MakeOld(ListFile());
+        EXPECT_TRUE(Refresh(NumberedRows(40)));
+        EXPECT_TRUE(IsOld(ListFile()));
+        EXPECT_EQ(Place(ListPicture), "538,85 - 798,588") << "the place of the old picture, too";
+        EXPECT_EQ(GuiHost::Find(Thumb), nullptr);
+        EXPECT_EQ(Seen(668, 60), header);
+        EXPECT_EQ(Seen(668, 95), row);
+        EXPECT_EQ(TakeLog().size(), 1u);
+    }
+    EXPECT_TRUE(Refresh(NumberedRows(40)));
+    EXPECT_EQ(Place(ListPicture), "538,85 - 798,1005");
+}
+
+TEST_F(PanelPictureTest, without_a_font_family_nothing_is_made)
+{
+    const CString table = AppDir() + L"languages\\none.ini";
+    const std::string text = "[Common]\nLKEY11=\n";
+    const FileReplaced file(table, std::vector<std::uint8_t>(text.begin(), text.end()));
+    {
+        const LanguageSpoken none("none");
+        Open(NumberedRows(3));
+    }
+    EXPECT_EQ(GuiHost::Find(PanelFrame), nullptr);
+    EXPECT_EQ(GuiHost::Find(ListFrame), nullptr);
+    TakeLog();
+}
+
+TEST_F(PanelPictureTest, a_file_that_cannot_be_written_keeps_the_old_picture)
+{
+    Open(NumberedRows(3));
+    {
+        const FileHeld held(ListFile());
+        EXPECT_TRUE(Refresh(NumberedRows(40)));
+        EXPECT_EQ(Place(ListPicture), "538,85 - 798,588");
+    }
+    EXPECT_EQ(TakeLog().size(), 1u);
+    EXPECT_TRUE(Refresh(NumberedRows(40)));
+    EXPECT_EQ(Place(ListPicture), "538,85 - 798,1005");
+}

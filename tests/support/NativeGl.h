@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Gui.h"
+
+/// The few OpenGL calls that tests make themselves. Under Winelib the system's OpenGL takes its arguments in another way than
+/// the headers say there, so these are declared apart from them.
+namespace NativeGl
+{
+/// Whether a context is current on this thread.
+bool HasContext();
+void ClearScreen(Pixel color);
+/// @param y from the bottom of the view
+Pixel ReadPixel(int x, int y);
+/// How many textures there are in the current context.
+int LiveTextures();
+/// Leaves the error "invalid enumerant" waiting.
+void RaiseError();
+/// Takes the error that waits; false when there is none.
+bool TakeError();
+} // namespace NativeGl
