@@ -53,17 +53,47 @@ Gdiplus::PixelFormat SectionFormat(Gdiplus::PixelFormat source, bool alpha)
     const bool known = (source & PixelFormatGDI) != 0 && source != PixelFormat16bppRGB565;
     return known ? source : PixelFormat32bppRGB;
 }
+
+// The whole file as a stream, null when it cannot be read. GDI+ would keep a file open that it cannot decode.
+IStream* StreamOfFile(LPCWSTR fileName)
+{
+    const HANDLE file = CreateFileW(fileName, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+    {
+        return nullptr;
+    }
+    IStream* stream = nullptr;
+    LARGE_INTEGER size = {};
+    HGLOBAL memory = nullptr;
+    if (GetFileSizeEx(file, &size) && size.HighPart == 0 && size.LowPart > 0)
+    {
+        memory = GlobalAlloc(GMEM_MOVEABLE, size.LowPart);
+    }
+    if (memory)
+    {
+        DWORD read = 0;
+        const bool whole = ReadFile(file, GlobalLock(memory), size.LowPart, &read, nullptr) && read == size.LowPart;
+        GlobalUnlock(memory);
+        if (!whole || CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
+        {
+            GlobalFree(memory);
+        }
+    }
+    CloseHandle(file);
+    return stream;
+}
 } // namespace
 
 HRESULT CImage::Load(LPCWSTR fileName) noexcept
 {
-    Gdiplus::GpBitmap* source = nullptr;
-    if (!StartGdiplus() || !fileName || GdipCreateBitmapFromFile(fileName, &source) != Gdiplus::Ok)
+    IStream* const stream = fileName ? StreamOfFile(fileName) : nullptr;
+    const HRESULT result = Load(stream);
+    if (stream)
     {
-        return E_FAIL;
+        stream->Release();
     }
-    const GdiplusImage owner(source);
-    return TakeBitmap(source);
+    return result;
 }
 
 HRESULT CImage::Load(IStream* stream) noexcept

@@ -7,6 +7,9 @@
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
 #include "../widgets/ParsingLocale.h"
+#include "FontInstallation.h"
+
+#include <KernelCommonUse/StringConvert.h>
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/ImageManager.h>
@@ -19,6 +22,8 @@
 namespace
 {
 const char* const SkinImagesetFile = "TavLook.imageset";
+/// Holds the face that the title has where the wanted one is not there.
+const char* const TitleFontFile = "youyuan.ttf";
 const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
 const wchar_t* const LeftListFrame = L"TavLeftCtrlFrame";
 } // namespace
@@ -49,6 +54,8 @@ bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
     currentButton_ = -1;
     propertyDlgOpen_ = false;
     fullScene_ = false;
+    // Without it the title is without text; the log says why.
+    InstallSystemFont(_w2a(sceneTitleFontStyle_), TitleFontFile);
     initialised_ = true;
     showLeftToolBar_ = true;
     return true;

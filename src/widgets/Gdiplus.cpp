@@ -5,6 +5,12 @@
 
 namespace gp
 {
+namespace
+{
+/// Never destroyed on purpose: families of it may be in use to the end. Null while there are none.
+GpFontCollection* addedFonts = nullptr;
+} // namespace
+
 void RequireGdiplus()
 {
     // While a CImage lives GDI+ stays; this one is never destroyed on purpose.
@@ -49,7 +55,22 @@ void FillExactly(GpBitmap* bitmap, ARGB color)
 FontFamily NewFontFamily(const wchar_t* name)
 {
     RequireGdiplus();
-    return Make<FontFamily>([&](GpFontFamily** family) { return GdipCreateFontFamilyFromName(name, nullptr, family); });
+    FontFamily installed =
+        Make<FontFamily>([&](GpFontFamily** family) { return GdipCreateFontFamilyFromName(name, nullptr, family); });
+    if (installed || !addedFonts)
+    {
+        return installed;
+    }
+    return Make<FontFamily>([&](GpFontFamily** family) { return GdipCreateFontFamilyFromName(name, addedFonts, family); });
+}
+
+void AddFontFile(const wchar_t* path)
+{
+    RequireGdiplus();
+    if (addedFonts || GdipNewPrivateFontCollection(&addedFonts) == Ok)
+    {
+        GdipPrivateAddFontFile(addedFonts, path);
+    }
 }
 
 Font NewFont(const GpFontFamily* family, float pixels)

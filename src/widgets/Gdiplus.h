@@ -67,6 +67,8 @@ Bitmap NewBitmap(int width, int height);
 void FillExactly(GpBitmap* bitmap, ARGB color);
 /// The font family, or null when no such family is installed.
 FontFamily NewFontFamily(const wchar_t* name);
+/// Makes the families of a font file known that was installed while the process ran: GDI+ may have listed all fonts before.
+void AddFontFile(const wchar_t* path);
 /// A regular font with an em height in pixels; null without a family.
 Font NewFont(const GpFontFamily* family, float pixels);
 /// Text aligned near, with GDI+'s default rules.

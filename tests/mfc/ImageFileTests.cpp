@@ -161,6 +161,22 @@ TEST(ImageFile, LeavesThePictureWhenAFileCannotBeRead)
     EXPECT_EQ(image.GetWidth(), 2);
 }
 
+TEST(ImageFile, IsLetGoWhenItCannotBeRead)
+{
+    CImage made;
+    ASSERT_TRUE(made.Create(Width, Height, 24));
+    const TemporaryImage file(L"bmp");
+    ASSERT_EQ(made.Save(file.path), S_OK);
+    // What is left of the picture is its header.
+    const HANDLE handle = CreateFileW(file.path, GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    SetFilePointer(handle, 54, nullptr, FILE_BEGIN);
+    SetEndOfFile(handle);
+    CloseHandle(handle);
+    CImage image;
+    EXPECT_EQ(image.Load(file.path), E_FAIL);
+    EXPECT_TRUE(DeleteFileW(file.path));
+}
+
 TEST(ImageFile, IsReadFromAStream)
 {
     CImage made;
