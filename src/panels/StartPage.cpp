@@ -55,11 +55,18 @@ private:
     HDC dc_;
 };
 
+/// Gives a finished file its name. A write-protected file under that name stays, also where a new name would push it out.
+bool PutInPlace(const CString& path)
+{
+    const DWORD attributes = GetFileAttributesW(path);
+    const bool locked = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    return !locked && MoveFileExW(path + Unfinished, path, MOVEFILE_REPLACE_EXISTING);
+}
+
 /// A copy that is whole or not there: what stands under the target's name is replaced at the end only.
 void Replace(const CString& source, const CString& target)
 {
-    if (!CopyFileW(source, target + Unfinished, FALSE) ||
-        !MoveFileExW(target + Unfinished, target, MOVEFILE_REPLACE_EXISTING))
+    if (!CopyFileW(source, target + Unfinished, FALSE) || !PutInPlace(target))
     {
         LogFailure("start page picture not copied", CString2string(source));
         DeleteFileW(target + Unfinished);
@@ -68,8 +75,7 @@ void Replace(const CString& source, const CString& target)
 
 void Save(const CImage& image, const CString& path)
 {
-    if (FAILED(image.Save(path + Unfinished)) ||
-        !MoveFileExW(path + Unfinished, path, MOVEFILE_REPLACE_EXISTING))
+    if (FAILED(image.Save(path + Unfinished)) || !PutInPlace(path))
     {
         LogFailure("start page not written", CString2string(path));
         DeleteFileW(path + Unfinished);

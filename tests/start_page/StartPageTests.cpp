@@ -1,44 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The start page's parameters and its printed picture.
-#include "support/GTest.h"
-#include "support/Gui.h"
-
-#include <KernelCommonUse/StringConvert.h>
-#include <NxConfig/SystemUtility.h>
+#include "StartPageTest.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
-// "project", "unit" and "title" in the Chinese of the ini file are the program's own words.
-const char* const Ini = "\xEF\xBB\xBF[发布独立程序文字]\n标题=Riverside 2.0\n项目名称=滨江新城\n单位名称=\n";
-
-CString Resources()
-{
-    return AppDir() + SystemUtility::GetResourceRelPath();
-}
-
-CString Background()
-{
-    return Resources() + L"pics\\kwexeGuiImage.bmp";
-}
-
-CString Printed()
-{
-    return AppDir() + L"exeFiles\\pics\\exeGuiImage.bmp";
-}
-
-std::vector<std::uint8_t> Bytes(const char* text)
-{
-    return std::vector<std::uint8_t>(text, text + std::strlen(text));
-}
-
-bool Exists(const CString& path)
-{
-    return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
-}
-
 /// The smallest rectangle of a region that holds every pixel in which two pictures differ.
 RECT Difference(const PictureFile& a, const PictureFile& b, const RECT& region)
 {
@@ -55,23 +22,9 @@ RECT Difference(const PictureFile& a, const PictureFile& b, const RECT& region)
     }
     return box;
 }
+} // namespace
 
-class StartPage : public testing::Test
-{
-protected:
-    StartPage() : ini_(AppDir() + SystemUtility::GetSysMidPath() + L"tavmemory.ini", MakeFolder()) {}
-
-    static std::vector<std::uint8_t> MakeFolder()
-    {
-        CreateDirectoryW(AppDir() + SystemUtility::GetSysMidPath(), nullptr);
-        return Bytes(Ini);
-    }
-
-    CeGuiMainFrame& frame_ = *CeGuiMainFrame::GetInstance();
-    FileReplaced ini_;
-};
-
-TEST_F(StartPage, defaults_come_from_the_ini_file_where_it_has_a_value)
+TEST_F(StartPageTest, defaults_come_from_the_ini_file_where_it_has_a_value)
 {
     const STAPAGE page;
     EXPECT_EQ(CString(L"Riverside 2.0"), page.title);
@@ -92,7 +45,7 @@ TEST_F(StartPage, defaults_come_from_the_ini_file_where_it_has_a_value)
     EXPECT_TRUE(page.picture.IsEmpty());
 }
 
-TEST_F(StartPage, a_stored_record_comes_back_with_its_flags)
+TEST_F(StartPageTest, a_stored_record_comes_back_with_its_flags)
 {
     STAPAGE page;
     page.title = L"t";
@@ -111,7 +64,7 @@ TEST_F(StartPage, a_stored_record_comes_back_with_its_flags)
     EXPECT_TRUE(stored.thirdFlag);
 }
 
-TEST_F(StartPage, a_reset_prints_three_lines_at_their_places)
+TEST_F(StartPageTest, a_reset_prints_three_lines_at_their_places)
 {
     frame_.ClearStaPageParameter();
     EXPECT_EQ(Resources() + L"pics/kwexeGuiImage.bmp", frame_.GetStaPageParameter().picture);
@@ -138,9 +91,9 @@ TEST_F(StartPage, a_reset_prints_three_lines_at_their_places)
     EXPECT_GE(unit.top, 246 - 18);
 }
 
-TEST_F(StartPage, a_wide_project_name_stays_centred_and_is_clipped)
+TEST_F(StartPageTest, a_wide_project_name_stays_centred_and_is_clipped)
 {
-    const FileReplaced ini(AppDir() + SystemUtility::GetSysMidPath() + L"tavmemory.ini",
+    const FileReplaced ini(IniFile(),
                            Bytes("\xEF\xBB\xBF[发布独立程序文字]\n项目名称=滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城\n"));
     frame_.ClearStaPageParameter();
     const RECT project = Difference(ReadPictureFile(Background()), ReadPictureFile(Printed()), {0, 100, 500, 170});
@@ -148,7 +101,7 @@ TEST_F(StartPage, a_wide_project_name_stays_centred_and_is_clipped)
     EXPECT_GE(project.right, 496);
 }
 
-TEST_F(StartPage, a_reset_renews_the_working_picture_from_the_pristine_copy)
+TEST_F(StartPageTest, a_reset_renews_the_working_picture_from_the_pristine_copy)
 {
     const std::vector<std::uint8_t> pristine = ReadBytes(Resources() + L"exeGuiImage2.bmp");
     ASSERT_FALSE(pristine.empty());
@@ -157,7 +110,7 @@ TEST_F(StartPage, a_reset_renews_the_working_picture_from_the_pristine_copy)
     EXPECT_EQ(pristine, ReadBytes(Resources() + L"exeGuiImage.bmp"));
 }
 
-TEST_F(StartPage, a_missing_pristine_copy_leaves_the_working_picture_and_prints)
+TEST_F(StartPageTest, a_missing_pristine_copy_leaves_the_working_picture_and_prints)
 {
     const FileReplaced working(Resources() + L"exeGuiImage.bmp", Bytes("as it was"));
     const FileTaken pristine(Resources() + L"exeGuiImage2.bmp");
@@ -167,23 +120,30 @@ TEST_F(StartPage, a_missing_pristine_copy_leaves_the_working_picture_and_prints)
     EXPECT_TRUE(Exists(Printed()));
 }
 
-TEST_F(StartPage, a_missing_or_corrupt_picture_resets_the_record_and_prints_nothing)
+TEST_F(StartPageTest, a_missing_or_corrupt_picture_resets_the_record_and_prints_nothing)
 {
     const FileReplaced printed(Printed(), Bytes("printed before"));
-    for (const bool corrupt : {false, true})
+    const std::vector<std::uint8_t> whole = ReadBytes(Background());
+    const std::vector<std::uint8_t> headerOnly(whole.begin(), whole.begin() + 54);
+    for (const std::vector<std::uint8_t>& bytes : {std::vector<std::uint8_t>(), Bytes("BM no picture"), headerOnly})
     {
         STAPAGE changed;
         changed.title = L"changed";
         frame_.SetStaPageParameter(changed);
-        const FileTaken taken(corrupt ? CString(L"none") : Background());
-        const FileReplaced replaced(corrupt ? Background() : AppDir() + L"unused.bmp", Bytes("BM no picture"));
+        const FileTaken taken(Background());
+        if (!bytes.empty())
+        {
+            WriteBytes(Background(), bytes);
+        }
         frame_.ClearStaPageParameter();
-        EXPECT_EQ(CString(L"Riverside 2.0"), frame_.GetStaPageParameter().title) << corrupt;
-        EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed())) << corrupt;
+        EXPECT_EQ(CString(L"Riverside 2.0"), frame_.GetStaPageParameter().title) << bytes.size();
+        EXPECT_EQ(Resources() + L"pics/kwexeGuiImage.bmp", frame_.GetStaPageParameter().picture) << bytes.size();
+        EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed())) << bytes.size();
+        EXPECT_FALSE(Exists(Printed() + L".part.bmp"));
     }
 }
 
-TEST_F(StartPage, a_target_that_cannot_be_written_stays_and_no_part_of_a_file_remains)
+TEST_F(StartPageTest, a_target_that_somebody_reads_stays_and_no_part_of_a_file_remains)
 {
     const FileReplaced printed(Printed(), Bytes("printed before"));
     const HANDLE held = CreateFileW(Printed(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
@@ -193,4 +153,48 @@ TEST_F(StartPage, a_target_that_cannot_be_written_stays_and_no_part_of_a_file_re
     EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed()));
     EXPECT_FALSE(Exists(Printed() + L".part.bmp"));
 }
-} // namespace
+
+TEST_F(StartPageTest, a_read_only_target_stays_and_no_part_of_a_file_remains)
+{
+    const FileReplaced printed(Printed(), Bytes("printed before"));
+    const FileReplaced working(Resources() + L"exeGuiImage.bmp", Bytes("as it was"));
+    for (const CString& target : {Printed(), Resources() + L"exeGuiImage.bmp"})
+    {
+        const std::vector<std::uint8_t> before = ReadBytes(target);
+        SetFileAttributesW(target, FILE_ATTRIBUTE_READONLY);
+        frame_.ClearStaPageParameter();
+        SetFileAttributesW(target, FILE_ATTRIBUTE_NORMAL);
+        EXPECT_EQ(before, ReadBytes(target));
+        EXPECT_FALSE(Exists(target + L".part.bmp"));
+    }
+}
+
+TEST_F(StartPageTest, without_the_folder_for_it_no_page_is_printed_and_the_record_is_reset)
+{
+    const CString folder = AppDir() + L"exeFiles\\pics";
+    ASSERT_TRUE(MoveFileW(folder, folder + L".taken"));
+    frame_.ClearStaPageParameter();
+    EXPECT_FALSE(Exists(folder));
+    EXPECT_TRUE(MoveFileW(folder + L".taken", folder));
+    EXPECT_EQ(CString(L"Riverside 2.0"), frame_.GetStaPageParameter().title);
+}
+
+TEST_F(StartPageTest, the_title_of_the_start_page_is_stored_with_its_color)
+{
+    frame_.SetStartPageTitle(L"滨江");
+    frame_.SetStartPageTitleColor(0x00123456);
+    EXPECT_EQ(CString(L"滨江"), frame_.GetStartPageTitle());
+    EXPECT_EQ(0x00123456u, frame_.GetStartPageTitleColor());
+}
+
+TEST_F(StartPageTest, a_record_that_is_changed_in_place_is_the_one_held_and_nothing_is_printed)
+{
+    const FileReplaced printed(Printed(), Bytes("printed before"));
+    frame_.GetStaPageParameter().title = L"in place";
+    STAPAGE copy(frame_.GetStaPageParameter());
+    EXPECT_EQ(CString(L"in place"), copy.title);
+    copy.picture = L"other.bmp";
+    frame_.SetStaPageParameter(copy);
+    EXPECT_EQ(CString(L"other.bmp"), frame_.GetStaPageParameter().picture);
+    EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed()));
+}
