@@ -150,6 +150,6 @@ void CeGuiMainFrame::CreateToolBar()
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("tool bar not prepared (" + NameBytes(dropped.getMessage()) + ")", CString2string(background));
+        LogDropped("tool bar not prepared", CString2string(background), NameBytes(dropped.getMessage()));
     }
 }

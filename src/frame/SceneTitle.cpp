@@ -37,8 +37,7 @@ void RemovePictureTitle()
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("former title picture not removed (" + NameBytes(dropped.getMessage()) + ")",
-                   CString2string(PictureTitleFile));
+        LogDropped("former title picture not removed", CString2string(PictureTitleFile), NameBytes(dropped.getMessage()));
     }
 }
 
@@ -127,7 +126,7 @@ void CeGuiMainFrame::CreateTitle(const CString& title, COLORREF color)
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("title picture not shown (" + NameBytes(dropped.getMessage()) + ")", CString2string(PictureTitleFile));
+        LogDropped("title picture not shown", CString2string(PictureTitleFile), NameBytes(dropped.getMessage()));
         return;
     }
     sceneTitle_ = title;

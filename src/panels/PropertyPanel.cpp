@@ -90,8 +90,7 @@ void CeGuiMainFrame::ShowPropertyTool(CEGUI::Window* button)
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("property tool's pictures not changed (" + NameBytes(dropped.getMessage()) + ")",
-                   CString2string(ToolNormal));
+        LogDropped("property tool's pictures not changed", CString2string(ToolNormal), NameBytes(dropped.getMessage()));
     }
 }
 
@@ -135,7 +134,7 @@ bool CeGuiMainFrame::RefreshPropertyDlg()
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("property panel not shown", NameBytes(dropped.getMessage()));
+        LogDropped("property panel not shown", CString2string(ListFrame), NameBytes(dropped.getMessage()));
         return false;
     }
 }

@@ -114,7 +114,7 @@ struct OnItemMoved
         }
         catch (const CEGUI::Exception& dropped)
         {
-            LogFailure("stretch of the property list not shown", NameBytes(dropped.getMessage()));
+            LogDropped("stretch not shown", "property list", NameBytes(dropped.getMessage()));
         }
         return true;
     }

@@ -65,7 +65,7 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("tooltip not shown (" + NameBytes(dropped.getMessage()) + ")", CString2string(TooltipPictureFile));
+        LogDropped("tooltip not shown", CString2string(TooltipPictureFile), NameBytes(dropped.getMessage()));
     }
 }
 

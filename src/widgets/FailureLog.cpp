@@ -51,6 +51,16 @@ void LogPassing(const std::string& what, const std::string& message)
     }
 }
 
+void LogDropped(const std::string& what, const std::string& name, const std::string& message)
+{
+    if (message != ToldMessage())
+    {
+        LogFailure(what + " (" + message + ")", name);
+    }
+    // The next one is told again, also when it is the same.
+    ForgetTold();
+}
+
 void TakeServiceLog()
 {
     SetServiceLogSink([](const std::string& line) { WriteLine("NxOsgCeGui: " + line); });

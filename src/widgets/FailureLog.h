@@ -18,5 +18,9 @@ void LogRaised(const std::string& what, const std::string& name, const std::stri
 void ForgetTold();
 void LogPassing(const std::string& what, const std::string& message);
 
+/// For a place where such an exception ends: one line with what was left undone, unless the exception was told where it was
+/// raised, with the file to mend.
+void LogDropped(const std::string& what, const std::string& name, const std::string& message);
+
 /// Sends the lines of the application's services to the same place, from now on.
 void TakeServiceLog();

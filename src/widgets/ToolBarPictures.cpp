@@ -9,14 +9,6 @@
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Window.h>
 
-namespace
-{
-void LogDropped(const char* what, const CString& name, const CEGUI::Exception& dropped)
-{
-    LogFailure(std::string(what) + " (" + NameBytes(dropped.getMessage()) + ")", CString2string(name));
-}
-} // namespace
-
 bool CeGuiToolBar::ChangeItemImage(int index, CString imageFile, const RECT& place)
 {
     ToolBarItem* item = ItemAt(index);
@@ -35,7 +27,7 @@ bool CeGuiToolBar::ChangeItemImage(int index, CString imageFile, const RECT& pla
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogDropped("picture of an item not changed", imageFile, dropped);
+        LogDropped("picture of an item not changed", CString2string(imageFile), NameBytes(dropped.getMessage()));
     }
     return true;
 }
@@ -56,7 +48,7 @@ bool CeGuiToolBar::SetButtonImages(CEGUI::Window* button, CString normalFile, CS
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogDropped("pictures of a button not changed", normalFile, dropped);
+        LogDropped("pictures of a button not changed", CString2string(normalFile), NameBytes(dropped.getMessage()));
     }
     return true;
 }

@@ -220,10 +220,12 @@ TEST_F(ToolBarTest, preparing_the_older_bar_without_its_picture_is_logged)
     const FileTaken away(SkinDir() + L"bottomBG.png");
     Frame().CreateToolBar();
     EXPECT_FALSE(FileImagesets::IsPresent(L"bottomBG.png"));
-    const Lines log = TakeLog();
-    ASSERT_EQ(log.size(), 2u);
-    EXPECT_EQ(log[0], "NxOsgCeGui: picture not loaded: bottomBG.png");
-    EXPECT_EQ(log[1].find("NxOsgCeGui: tool bar not prepared ("), 0u) << log[1];
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: picture not loaded: bottomBG.png"}) << "one line each time";
+        Frame().CreateToolBar();
+    }
+    TakeLog();
 }
 
 TEST_F(ToolBarTest, a_missing_tool_picture_ends_the_build_and_the_next_build_succeeds)

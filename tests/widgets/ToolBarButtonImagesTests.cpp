@@ -151,10 +151,13 @@ TEST_F(ButtonImages, normal_and_hover_have_to_be_there_already)
 {
     CEGUI::Window& button = AddButton(L"normal.bmp", L"", L"");
     const std::string before = Pictures(button);
-    EXPECT_TRUE(bar_->SetButtonImages(&button, L"hover.bmp", L"", L"pushed.bmp", false));
-    EXPECT_EQ(Pictures(button), before);
-    EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: pictures of a button not changed (there is no imageset named 'hover.bmp'): "
-                               "hover.bmp"});
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_TRUE(bar_->SetButtonImages(&button, L"hover.bmp", L"", L"pushed.bmp", false));
+        EXPECT_EQ(Pictures(button), before);
+        EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: pictures of a button not changed (there is no imageset named 'hover.bmp'): "
+                                   "hover.bmp"});
+    }
     EXPECT_TRUE(bar_->SetButtonImages(&button, L"normal.bmp", L"hover.bmp", L"pushed.bmp", false));
     EXPECT_EQ(Pictures(button), before);
     EXPECT_EQ(TakeLog().size(), 1u);
@@ -165,11 +168,12 @@ TEST_F(ButtonImages, pushed_picture_that_cannot_be_loaded_leaves_the_button)
 {
     CEGUI::Window& button = AddButton(L"normal.bmp", L"", L"");
     const std::string before = Pictures(button);
-    EXPECT_TRUE(bar_->SetButtonImages(&button, L"normal.bmp", L"", L"nowhere.png", true));
-    EXPECT_EQ(Pictures(button), before);
-    const Lines log = TakeLog();
-    ASSERT_FALSE(log.empty());
-    EXPECT_EQ(log[0], "NxOsgCeGui: picture not loaded: nowhere.png");
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_TRUE(bar_->SetButtonImages(&button, L"normal.bmp", L"", L"nowhere.png", true));
+        EXPECT_EQ(Pictures(button), before);
+        EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: picture not loaded: nowhere.png"}) << "one line each time";
+    }
 }
 
 TEST_F(ButtonImages, button_without_normal_or_pushed_name_stays_as_it_is)
