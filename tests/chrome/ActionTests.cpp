@@ -5,6 +5,11 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+
+#include <widgets/InputState.h>
+
+#include <algorithm>
 
 namespace
 {
@@ -63,23 +68,30 @@ TEST_F(ChromeActions, close_posts_15_to_the_viewers_window_alone)
 
 TEST_F(ChromeActions, close_destroys_every_frame_before_the_host_is_told)
 {
-    // Taken at the very moment at which the last frame goes.
+    // Asked at the very moments at which they go.
     bool told = false;
-    int gone = 0;
-    for (const char* name : frameNames)
+    Lines gone;
     {
-        Window(name).subscribeEvent(CEGUI::Window::EventDestructionStarted,
-                                    CEGUI::Event::Subscriber(
-                                        [&](const CEGUI::EventArgs&)
-                                        {
-                                            MSG message;
-                                            told = told || PeekMessageW(&message, Host().Window(), GUI_HOST_MESSAGE,
-                                                                        GUI_HOST_MESSAGE, PM_NOREMOVE);
-                                            return ++gone, false;
-                                        }));
-        EXPECT_NE(Host().Find(name), nullptr);
+        const CEGUI::Event::ScopedConnection watch = CEGUI::WindowManager::getSingleton().subscribeEvent(
+            CEGUI::WindowManager::EventWindowDestroyed,
+            CEGUI::Event::Subscriber(
+                [&](const CEGUI::EventArgs& args)
+                {
+                    const std::string name = static_cast<const CEGUI::WindowEventArgs&>(args).window->getName().c_str();
+                    if (std::find(std::begin(frameNames), std::end(frameNames), name) != std::end(frameNames))
+                    {
+                        gone.push_back(name);
+                    }
+                    MSG message;
+                    told = told || PeekMessageW(&message, Host().Window(), GUI_HOST_MESSAGE, GUI_HOST_MESSAGE, PM_NOREMOVE);
+                    return false;
+                }));
+        Host().Click(772, 25);
     }
-    Host().Click(772, 25);
+    std::sort(gone.begin(), gone.end());
+    Lines all(std::begin(frameNames), std::end(frameNames));
+    std::sort(all.begin(), all.end());
+    EXPECT_EQ(gone, all);
     EXPECT_FALSE(told);
     EXPECT_EQ(Host().TakeCodes(), Codes{15});
     for (const char* name : frameNames)
@@ -146,6 +158,51 @@ TEST_F(ChromeActions, clicks_on_the_title_bar_are_swallowed)
     EXPECT_TRUE(Host().TakeMessages().empty());
     Host().Click(400, 300);
     EXPECT_EQ(reached, 3) << "below the bar the sheet gets them";
+}
+
+TEST_F(ChromeActions, bars_report_clicks_on_them_as_handled)
+{
+    const auto handled = [](const char* name, const CEGUI::String& event)
+    {
+        CEGUI::MouseEventArgs args(&Window(name));
+        args.button = CEGUI::LeftButton;
+        args.clickCount = 1;
+        Window(name).fireEvent(event, args);
+        return args.handled;
+    };
+    for (const char* name : {"TavTitleBackground", "TavBotCtrlFrame", "TavLeftCtrlFrame"})
+    {
+        for (const CEGUI::String& event :
+             {CEGUI::Window::EventMouseClick, CEGUI::Window::EventMouseButtonDown, CEGUI::Window::EventMouseButtonUp})
+        {
+            EXPECT_EQ(handled(name, event), 1u) << name << " " << event;
+        }
+    }
+    EXPECT_EQ(handled("TavBotCtrlFrame", CEGUI::Window::EventMouseDoubleClick), 1u);
+    EXPECT_EQ(handled("TavLeftCtrlFrame", CEGUI::Window::EventMouseDoubleClick), 1u);
+    EXPECT_EQ(handled("TavTitleBackground", CEGUI::Window::EventMouseDoubleClick), 0u) << "this one is left alone, on purpose";
+    EXPECT_EQ(handled("TavLeftBorderBackground", CEGUI::Window::EventMouseButtonDown), 0u);
+}
+
+TEST_F(ChromeActions, a_hover_without_a_window_or_an_input_state_is_left_unhandled)
+{
+    CEGUI::Window& logo = Window("TavTilteLogo");
+    const auto handled = [&](CEGUI::Window* window)
+    {
+        CEGUI::WindowEventArgs args(window);
+        logo.fireEvent(CEGUI::Window::EventMouseMove, args);
+        return args.handled;
+    };
+    EXPECT_EQ(handled(&logo), 1u);
+    EXPECT_EQ(InputState::Get().windowUnderMouse, "TavTilteLogo");
+    InputState::Get().windowUnderMouse = "before";
+    Frame().SetDisplySystemMouse(false);
+    EXPECT_EQ(handled(nullptr), 0u);
+    EXPECT_EQ(InputState::Get().windowUnderMouse, "before");
+    InputState::Release();
+    EXPECT_EQ(handled(&logo), 0u);
+    EXPECT_EQ(InputState::GetIfThere(), nullptr);
+    EXPECT_FALSE(Frame().IsDisplySystemMouse());
 }
 
 TEST_F(ChromeActions, hovering_the_chrome_asks_for_the_system_s_cursor)

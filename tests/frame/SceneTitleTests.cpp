@@ -145,6 +145,8 @@ TEST_F(SceneTitleTest, the_setters_only_store)
     const Screenshot before = Host().Shoot();
     Frame().SetSceneTitle(L"Other");
     Frame().SetSceneTitleColor(Yellow);
+    Frame().SetSceneTitleFontStyle(L"No Such Family");
+    Frame().SetSceneTitleFontStyle(Font);
     Frame().SetSceneTitleFontHeight(30.0f);
     EXPECT_TRUE(Host().Shoot().pixels == before.pixels);
     Rebuild();
@@ -166,6 +168,9 @@ TEST_F(SceneTitleTest, before_the_frame_is_built_a_change_only_stores)
     DeleteFileW(SkinDir() + L"TavTilteText.bmp");
     Frame().ChangeTitleText(L"Early", Yellow, Font, 20.0f);
     EXPECT_EQ(Frame().GetSceneTitle(), L"Early");
+    EXPECT_EQ(Frame().GetSceneTitleColor(), Yellow);
+    EXPECT_EQ(Frame().GetSceneTitleFontStyle(), Font);
+    EXPECT_EQ(Frame().GetSceneTitleFontHeight(), 20.0f);
     EXPECT_TRUE(ReadBytes(SkinDir() + L"TavTilteText.bmp").empty()) << "no picture is written";
     EXPECT_EQ(WindowCount(), 0);
     Rebuild();

@@ -3,6 +3,20 @@
 #include "support/FrameTest.h"
 #include "widgets/Pictures.h"
 
+#include <CEGUI/Window.h>
+#include <CEGUI/widgets/PushButton.h>
+
+using ChangeLook = bool (CeGuiMainFrame::*)(int, int, bool);
+bool MoveLook(CeGuiMainFrame& frame, int from, int to, bool scroll);
+
+// An explicit instantiation may name a private member: the move of the look by itself, which records and clicks only lead to.
+template <ChangeLook Member>
+struct ChangeLookReach
+{
+    friend bool MoveLook(CeGuiMainFrame& frame, int from, int to, bool scroll) { return (frame.*Member)(from, to, scroll); }
+};
+template struct ChangeLookReach<&CeGuiMainFrame::ChangeLeftBtnState>;
+
 namespace
 {
 using Codes = std::vector<WPARAM>;
@@ -93,6 +107,23 @@ TEST_F(SelectionTest, the_same_index_again_changes_nothing)
     EXPECT_EQ(Frame().GetBtnIndex(), 2);
 }
 
+TEST_F(SelectionTest, moving_the_look_from_an_entry_to_itself_is_refused)
+{
+    Frame().SetBtnIndex(3);
+    EXPECT_FALSE(MoveLook(Frame(), 3, 3, true));
+    ExpectPushed("d_P", 3);
+    EXPECT_TRUE(MoveLook(Frame(), -1, 0, false));
+    ExpectPushed("a_P", 0);
+    ExpectPushed("d_P", 3);
+    ExpectAtRest("b_V", 1);
+    EXPECT_TRUE(MoveLook(Frame(), 3, 99, true)) << "out of range is passed over";
+    ExpectAtRest("d_P", 3);
+    EXPECT_EQ(Frame().GetBtnIndex(), 3) << "the look alone moves";
+    Frame().DestoryAllToolBar();
+    EXPECT_TRUE(MoveLook(Frame(), 0, 1, true));
+    EXPECT_FALSE(MoveLook(Frame(), 1, 1, true));
+}
+
 TEST_F(SelectionTest, an_index_without_a_record_is_passed_over)
 {
     Frame().SetBtnIndex(4);
@@ -160,6 +191,27 @@ TEST_F(SelectionTest, an_entry_of_kind_2_is_not_found_by_a_click_on_purpose)
     EXPECT_NE(Place("e_P"), "no window") << "it is named as one of kind 0";
     EXPECT_TRUE(ClickEntry("e_P").empty());
     EXPECT_EQ(Frame().GetBtnIndex(), -1);
+}
+
+TEST_F(SelectionTest, a_click_on_a_window_of_another_ending_looks_for_kind_1)
+{
+    Show({Record(L"n", 0), Record(L"n", 1), Record(L"m", 0)});
+    CeGuiToolBar& list = Bar(L"TavLeftCtrlFrame");
+    // A host's own entries, with the list's events on them.
+    ASSERT_EQ(list.AddImageButton(L"n_X", L"", L"", L"", L""), 3);
+    ASSERT_EQ(list.AddImageButton(L"mab", L"", L"", L"", L""), 4);
+    ExpectReported(ClickEntry("n_X"), 1);
+    EXPECT_EQ(Frame().GetBtnIndex(), 1);
+    EXPECT_TRUE(ClickEntry("mab").empty()) << "there is no such record of kind 1";
+    ExpectReported(ClickEntry("n_P"), 0);
+}
+
+TEST_F(SelectionTest, a_click_without_a_window_is_left_unhandled)
+{
+    CEGUI::WindowEventArgs args(nullptr);
+    GuiHost::Find("a_P")->fireEvent(CEGUI::PushButton::EventClicked, args);
+    EXPECT_EQ(args.handled, 0u);
+    EXPECT_TRUE(Host().TakeMessages().empty());
 }
 
 TEST_F(SelectionTest, a_click_after_the_record_was_taken_away_chooses_nothing)

@@ -112,6 +112,28 @@ TEST_F(ToolBarClickTest, the_bar_between_the_tools_swallows_clicks_and_double_cl
     EXPECT_TRUE(Visible(ToolBar));
 }
 
+TEST_F(ToolBarClickTest, no_press_release_or_click_on_bar_or_list_reaches_the_sheet)
+{
+    int reached = 0;
+    for (const CEGUI::String& event :
+         {CEGUI::Window::EventMouseButtonDown, CEGUI::Window::EventMouseButtonUp, CEGUI::Window::EventMouseClick,
+          CEGUI::Window::EventMouseDoubleClick})
+    {
+        GuiHost::Find("rootSheet")->subscribeEvent(
+            event, CEGUI::Event::Subscriber([&reached](const CEGUI::EventArgs&) { return ++reached, true; }));
+    }
+    SlideIn(110, 550);
+    Host().Click(110, 555);
+    Host().DoubleClick(110, 555);
+    SlideIn(50, 300);
+    Host().Click(50, 301);
+    Host().DoubleClick(50, 301);
+    EXPECT_EQ(reached, 0);
+    Host().MoveMouse(400, 300);
+    Host().Click(400, 300);
+    EXPECT_EQ(reached, 3) << "on the scene the sheet gets them";
+}
+
 TEST_F(ToolBarClickTest, a_hidden_bar_takes_no_click)
 {
     Rebuild();
@@ -131,6 +153,8 @@ TEST_F(ToolBarClickTest, an_event_without_a_window_is_handled_by_the_commanding_
     };
     EXPECT_EQ(handled("TavToolButtom_1"), 0u);
     EXPECT_TRUE(Frame().IsShowLeftToolBar()) << "nothing is toggled";
+    EXPECT_EQ(handled("TavToolButtom_4"), 0u);
+    EXPECT_FALSE(Frame().IsOpenPropertyDlg());
     EXPECT_EQ(Host().TakeCodes(), Codes{});
     EXPECT_EQ(handled("TavToolButtom_2"), 1u);
     EXPECT_EQ(handled("TavToolButtom_3"), 1u);

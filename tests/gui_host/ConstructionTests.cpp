@@ -38,6 +38,7 @@ struct Construction
     HWND window = reinterpret_cast<HWND>(1);
     bool node = true;
     bool contextMenuAllowed = false;
+    std::vector<MSG> notified;
     MouseFlags flags = {true, true, true, true};
 };
 
@@ -76,6 +77,12 @@ public:
         fresh.node = frame.GetGUINode().valid();
         fresh.contextMenuAllowed = InputState::Get().contextMenuAllowed;
         fresh.flags = mouseFlags;
+        frame.NotifyHost(GUI_CMD_ROAM, 6);
+        MSG message;
+        while (PeekMessageW(&message, reinterpret_cast<HWND>(-1), GUI_HOST_MESSAGE, GUI_HOST_MESSAGE, PM_REMOVE))
+        {
+            fresh.notified.push_back(message);
+        }
     }
 };
 
@@ -130,6 +137,15 @@ TEST(Construction, has_neither_window_nor_camera_before_init)
 {
     EXPECT_EQ(fresh.window, nullptr);
     EXPECT_FALSE(fresh.node);
+}
+
+TEST(Construction, posts_to_the_threads_own_queue_before_init)
+{
+    ASSERT_EQ(fresh.notified.size(), 1u);
+    EXPECT_EQ(fresh.notified[0].hwnd, nullptr);
+    EXPECT_EQ(fresh.notified[0].message, 1524u);
+    EXPECT_EQ(fresh.notified[0].wParam, 2u);
+    EXPECT_EQ(fresh.notified[0].lParam, 6);
 }
 
 TEST(TitleFont, is_segoe_ui_semibold_when_installed_and_you_yuan_when_not)

@@ -19,6 +19,7 @@
 #include <osg/RenderInfo>
 #include <osg/State>
 
+#include <cstring>
 #include <fstream>
 
 namespace
@@ -173,6 +174,50 @@ TEST_F(DrawableTest, finish_twice_is_harmless)
     EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
     drawable->Finish();
     EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
+}
+
+TEST_F(DrawableTest, started_again_it_renders_at_once_since_its_first_frame_is_drawn)
+{
+    Host().Close();
+    MakeCurrent();
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    const OtherContextId its(State(), 42);
+    std::vector<int> drawn;
+    for (int start = 0; start < 2; ++start)
+    {
+        drawable->Init(42);
+        CEGUI::GUIContext& gui = CEGUI::System::getSingleton().getDefaultGUIContext();
+        int count = 0;
+        gui.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueStarted,
+                           CEGUI::Event::Subscriber([&count](const CEGUI::EventArgs&) { return ++count, true; }));
+        gui.setRootWindow(CEGUI::WindowManager::getSingleton().createWindow("DefaultWindow", "sheet"));
+        DrawWith(State(), *drawable);
+        drawn.push_back(count > 0);
+        drawable->Finish();
+    }
+    EXPECT_EQ(drawn, (std::vector<int>{0, 1}));
+}
+
+TEST_F(DrawableTest, its_own_operations_follow_each_other_in_the_table)
+{
+    // The order is part of the binary interface.
+    struct Reach : CeGuiDrawable
+    {
+        static auto Setup() { return &Reach::SetupCeGui; }
+        static auto Resource() { return &Reach::InitResource; }
+        static auto Configure() { return &Reach::Config; }
+    };
+    const auto slot = [](auto operation)
+    {
+        std::ptrdiff_t offset = 0;
+        std::memcpy(&offset, &operation, sizeof(offset));
+        return offset / static_cast<std::ptrdiff_t>(sizeof(void*));
+    };
+    const std::ptrdiff_t first = slot(&CeGuiDrawable::Init);
+    EXPECT_GT(first, slot(&osg::Drawable::drawImplementation));
+    EXPECT_EQ(slot(Reach::Setup()), first + 1);
+    EXPECT_EQ(slot(Reach::Resource()), first + 2);
+    EXPECT_EQ(slot(Reach::Configure()), first + 3);
 }
 
 TEST_F(DrawableTest, finish_of_a_drawable_that_was_never_initialised_touches_no_cegui)

@@ -168,24 +168,28 @@ TEST_F(HostLink, full_scene_lets_the_title_bar_slide_in_and_out_by_mouse)
 
 TEST_F(HostLink, timer_ticks_of_2022_reach_every_bar_and_hide_a_sliding_one)
 {
-    CEGUI::Window& tools = Window("TavBotCtrlFrame");
-    Frame().OnMouseMove(0, CPoint(400, 300));
-    Frame().OnMouseMove(0, CPoint(300, 570));
-    ASSERT_TRUE(tools.isVisible());
-    const std::string shown = Place("TavBotCtrlFrame");
-    Frame().OnMouseMove(0, CPoint(400, 100));
-    if (tools.isVisible())
+    Frame().EnableSlideOut(true);
+    Frame().OnToolBarFullScene(true);
+    const char* const bars[] = {"TavTitleBackground", "TavLeftCtrlFrame", "TavBotCtrlFrame"};
+    for (const char* name : bars)
     {
+        SCOPED_TRACE(name);
+        CEGUI::Window& bar = Window(name);
+        bar.show();
+        const std::string shown = Place(name);
+        Frame().OnMouseMove(0, CPoint(700, 300));
         Frame().OnTimer(2021);
-        EXPECT_EQ(Place("TavBotCtrlFrame"), shown);
+        EXPECT_EQ(Place(name), shown);
         Frame().OnTimer(2022);
-        EXPECT_NE(Place("TavBotCtrlFrame"), shown);
-        for (int i = 0; i < 10; ++i)
+        EXPECT_NE(Place(name), shown);
+        for (int i = 0; i < 9; ++i)
         {
+            EXPECT_TRUE(bar.isVisible()) << i;
             Frame().OnTimer(2022);
         }
+        EXPECT_FALSE(bar.isVisible());
     }
-    EXPECT_FALSE(tools.isVisible());
+    Frame().EnableSlideOut(false);
 }
 
 TEST_F(HostLink, update_event_may_be_called_every_frame)

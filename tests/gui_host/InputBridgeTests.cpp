@@ -8,6 +8,9 @@
 #include <CEGUI/InputEvent.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
+
+#include <set>
 
 namespace
 {
@@ -248,6 +251,33 @@ TEST_F(InputBridge, resize_sets_display_size_and_window_size_and_builds_the_fram
     EXPECT_EQ(CEGUI::System::getSingleton().getRenderer()->getDisplaySize(), CEGUI::Sizef(720, 500));
     EXPECT_EQ(Place("rootSheet"), "0,0 - 720,500");
     EXPECT_EQ(Place("TavTilteCloseButtom"), "680,13 - 704,37");
+}
+
+TEST_F(InputBridge, resize_makes_every_window_anew)
+{
+    const auto live = []
+    {
+        std::set<const CEGUI::Window*> windows;
+        for (auto window = CEGUI::WindowManager::getSingleton().getIterator(); !window.isAtEnd(); ++window)
+        {
+            windows.insert(*window);
+        }
+        return windows;
+    };
+    std::set<const CEGUI::Window*> former = live();
+    const std::size_t count = former.size();
+    ASSERT_GT(count, 15u);
+    const CEGUI::Event::ScopedConnection watch = CEGUI::WindowManager::getSingleton().subscribeEvent(
+        CEGUI::WindowManager::EventWindowDestroyed,
+        CEGUI::Event::Subscriber(
+            [&](const CEGUI::EventArgs& args)
+            {
+                former.erase(static_cast<const CEGUI::WindowEventArgs&>(args).window);
+                return false;
+            }));
+    Rebuild();
+    EXPECT_EQ(former.size(), 0u) << "windows that outlived the resize";
+    EXPECT_EQ(live().size(), count);
 }
 
 TEST_F(InputBridge, close_button_works_again_when_the_mouse_has_not_moved_since_it_was_pressed)

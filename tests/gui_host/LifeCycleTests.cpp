@@ -167,6 +167,19 @@ TEST_F(LifeCycle, clear_all_windows_leaves_only_the_skins_own_pictures)
     EXPECT_EQ(Host().Shoot().At(400, 20), Background());
 }
 
+TEST_F(LifeCycle, clear_all_windows_drops_what_is_subscribed_to_the_system)
+{
+    CEGUI::System& system = CEGUI::System::getSingleton();
+    int told = 0;
+    system.subscribeEvent(CEGUI::System::EventDisplaySizeChanged,
+                          CEGUI::Event::Subscriber([&](const CEGUI::EventArgs&) { return ++told, false; }));
+    system.notifyDisplaySizeChanged(CEGUI::Sizef(ViewWidth, ViewHeight));
+    ASSERT_EQ(told, 1);
+    Frame().ClearAllWindows();
+    system.notifyDisplaySizeChanged(CEGUI::Sizef(ViewWidth, ViewHeight));
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(LifeCycle, clear_all_windows_makes_the_viewers_context_current_by_itself)
 {
     Host().Viewer().getCamera()->getGraphicsContext()->releaseContext();
