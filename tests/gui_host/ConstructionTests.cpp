@@ -49,6 +49,12 @@ class TakeConstruction : public testing::Environment
 public:
     void SetUp() override
     {
+        // For a test that runs this program again.
+        wchar_t font[MAX_PATH] = {};
+        if (GetEnvironmentVariableW(L"NX_ADDED_FONT", font, MAX_PATH))
+        {
+            ASSERT_GT(AddFontResourceExW(font, FR_PRIVATE, nullptr), 0);
+        }
         fresh.inputStateBefore = InputState::GetIfThere() != nullptr;
         CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
         fresh.inputStateAfter = InputState::GetIfThere() != nullptr;
