@@ -23,5 +23,13 @@ fi
 if [ -z "${DISPLAY:-}" ]; then
     exec "$here/with_display.sh" "$0" "$program" "$@"
 fi
+# On a display without a window manager Wine draws captions itself and gives the focus itself, when it is told not to leave
+# them to one; else each dialog waits about two seconds for an answer that does not come.
+managed=Y
+[ "${NX_BARE_DISPLAY:-}" != "$DISPLAY" ] || managed=N
+if [ "$(cat "$WINEPREFIX/managed" 2>/dev/null)" != "$managed" ]; then
+    wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d "$managed" /f >/dev/null 2>&1
+    echo "$managed" >"$WINEPREFIX/managed"
+fi
 # Numbers stay in the C locale, which CEGUI insists on.
 exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" wine "$folder/$(basename "$program").so" "$@"

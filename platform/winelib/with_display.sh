@@ -23,5 +23,7 @@ if ! read -r -t 30 number <"$folder/number"; then
     exit 1
 fi
 export DISPLAY=:$number
+# There is no window manager on it.
+export NX_BARE_DISPLAY=$DISPLAY
 # Wine's desktop process complains about the end of its display whenever that is taken away.
 "$@" 2> >(sed -u '/^X connection to .* broken/d' >&2)
