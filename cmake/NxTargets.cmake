@@ -25,4 +25,6 @@ if(MSVC)
     target_compile_options(nx_common INTERFACE /W4 /utf-8)
 else()
     target_compile_options(nx_common INTERFACE -Wall -Wextra -Werror)
+    # Line numbers are enough to read a stack by, and descriptions of every type double the time to compile and link.
+    target_compile_options(nx_common INTERFACE $<$<CONFIG:RelWithDebInfo>:-g1>)
 endif()

@@ -90,10 +90,10 @@ Raster PaintShadows(const std::vector<Caster>& casters, const osg::Vec3d& toSun)
         const double limit = kLongestShadow / std::max(0.01, perHeight.length());
         if (caster.bottom > limit)
             continue;
-        const Polygon near = Moved(caster.footprint, perHeight * caster.bottom);
-        const Polygon far = Moved(caster.footprint, perHeight * std::min(limit, caster.top));
-        std::vector<osg::Vec2d> both(near);
-        both.insert(both.end(), far.begin(), far.end());
+        const Polygon base = Moved(caster.footprint, perHeight * caster.bottom);
+        const Polygon tip = Moved(caster.footprint, perHeight * std::min(limit, caster.top));
+        std::vector<osg::Vec2d> both(base);
+        both.insert(both.end(), tip.begin(), tip.end());
         FillPolygon(shadow, kPixels, kPixelsPerMetre, ConvexHull(both), 255);
     }
     Blur(shadow, kPixels, 1);
