@@ -59,16 +59,10 @@ std::map<CString, Composition>& KnownCompositions()
     return known;
 }
 
-gp::Bitmap LoadPicture(const CString& path)
-{
-    gp::RequireGdiplus();
-    return gp::Make<gp::Bitmap>([&](gp::GpBitmap** bitmap) { return gp::GdipCreateBitmapFromFile(path, bitmap); });
-}
-
 /// The border's picture as a bitmap to draw on, or a blank one.
 gp::Bitmap NewCanvas(const CString& borderFile)
 {
-    if (const gp::Bitmap border = LoadPicture(borderFile))
+    if (const gp::Bitmap border = gp::LoadBitmapFile(borderFile))
     {
         UINT width = 0;
         UINT height = 0;
@@ -91,7 +85,7 @@ gp::Bitmap NewCanvas(const CString& borderFile)
 /// False when the file cannot be loaded or drawn.
 bool DrawFile(gp::GpGraphics* canvas, const CString& file, const gp::GpRect& rect)
 {
-    const gp::Bitmap picture = LoadPicture(file);
+    const gp::Bitmap picture = gp::LoadBitmapFile(file);
     return picture && gp::GdipDrawImageRectI(canvas, picture.get(), rect.X, rect.Y, rect.Width, rect.Height) == gp::Ok;
 }
 

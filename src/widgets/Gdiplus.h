@@ -16,6 +16,7 @@ using std::min;
 
 #include <gdiplus.h>
 
+#include <cstddef>
 #include <memory>
 
 /// The flat GDI+ interface with owners for what it hands out.
@@ -65,6 +66,11 @@ Bitmap NewBitmap(int width, int height);
 /// Gives every pixel exactly this colour. Neither filling nor clearing is sure to keep the colour of what is fully
 /// transparent.
 void FillExactly(GpBitmap* bitmap, ARGB color);
+/// The picture in a file's bytes; null when no decoder reads them.
+Bitmap BitmapOf(const void* bytes, std::size_t size);
+/// A picture file; null when it is missing or no picture. It is read as a whole first: decoders read in small steps, and on
+/// files each of these may cost as much as the whole.
+Bitmap LoadBitmapFile(const wchar_t* path);
 /// The font family, or null when no such family is installed.
 FontFamily NewFontFamily(const wchar_t* name);
 /// Makes the families of a font file known that was installed while the process ran: GDI+ may have listed all fonts before.

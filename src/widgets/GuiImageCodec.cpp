@@ -5,46 +5,14 @@
 #include <CEGUI/Size.h>
 #include <CEGUI/Texture.h>
 
-#include <cstring>
 
 namespace
 {
 constexpr UINT MaxSide = 32768;
 
-struct ReleaseStream
-{
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
-/// A stream over a copy of the bytes.
-std::unique_ptr<IStream, ReleaseStream> StreamOf(const std::uint8_t* data, std::size_t size)
-{
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-    if (!memory)
-    {
-        return nullptr;
-    }
-    std::memcpy(GlobalLock(memory), data, size);
-    GlobalUnlock(memory);
-    IStream* stream = nullptr;
-    if (CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
-    {
-        GlobalFree(memory);
-        return nullptr;
-    }
-    return std::unique_ptr<IStream, ReleaseStream>(stream);
-}
-
 bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
-    gp::RequireGdiplus();
-    const auto stream = StreamOf(data, size);
-    if (!stream)
-    {
-        return false;
-    }
-    const gp::Bitmap bitmap =
-        gp::Make<gp::Bitmap>([&](gp::GpBitmap** b) { return gp::GdipCreateBitmapFromStream(stream.get(), b); });
+    const gp::Bitmap bitmap = gp::BitmapOf(data, size);
     UINT width = 0;
     UINT height = 0;
     if (!bitmap || gp::GdipGetImageWidth(bitmap.get(), &width) != gp::Ok ||
