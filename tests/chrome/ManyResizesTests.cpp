@@ -17,12 +17,12 @@ namespace
 {
 using ManyResizes = HostedFrame;
 
-/// A resize takes a twentieth of a second, so the full thousand only when NX_TEST_RESIZES asks for it: a picture that leaks
+/// A resize takes about a tenth of a second, so the full thousand only when NX_TEST_RESIZES asks for it: a picture that leaks
 /// with each resize shows in far fewer.
 int Resizes()
 {
     const char* wanted = std::getenv("NX_TEST_RESIZES");
-    return wanted ? std::atoi(wanted) : 160;
+    return wanted ? std::atoi(wanted) : 120;
 }
 
 /// Kilobytes of memory that the process holds.

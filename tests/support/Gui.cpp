@@ -26,6 +26,8 @@ namespace
 {
 const wchar_t* const MainClass = L"NxGuiTestMain";
 const wchar_t* const ViewClass = L"NxGuiTestView";
+/// Those that live, in the order in which they were made; the last is the one whose application runs.
+std::vector<GuiHost*> hosts;
 GuiHost* currentHost = nullptr;
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -113,6 +115,7 @@ PictureFile ReadPictureFile(const CString& path)
 GuiHost::GuiHost(int width, int height, osg::Node* scene) : width_(width), height_(height)
 {
     RegisterWindowClasses(&GuiHost::ViewProcedure);
+    hosts.push_back(this);
     currentHost = this;
     const HINSTANCE instance = GetModuleHandleW(nullptr);
     main_ = CreateWindowExW(0, MainClass, L"test host", WS_POPUP | WS_VISIBLE, 0, 0, width, height, nullptr, nullptr, instance,
@@ -154,16 +157,20 @@ GuiHost::GuiHost(int width, int height, osg::Node* scene) : width_(width), heigh
     }
     viewer_->setSceneData(root_);
     viewer_->realize();
+    viewerProcedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(view_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&GuiHost::OwnMouseOnly)));
 }
 
 GuiHost::~GuiHost()
 {
     Close();
+    SetWindowLongPtrW(view_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(viewerProcedure_));
     viewer_ = nullptr;
-    AfxGetApp()->m_pMainWnd = nullptr;
     mainWnd_.Detach();
     DestroyWindow(main_);
-    currentHost = nullptr;
+    hosts.erase(std::remove(hosts.begin(), hosts.end(), this), hosts.end());
+    currentHost = hosts.empty() ? nullptr : hosts.back();
+    AfxGetApp()->m_pMainWnd = currentHost ? &currentHost->mainWnd_ : nullptr;
 }
 
 LRESULT CALLBACK GuiHost::ViewProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -173,6 +180,16 @@ LRESULT CALLBACK GuiHost::ViewProcedure(HWND window, UINT message, WPARAM wParam
         return 1;
     }
     return DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT CALLBACK GuiHost::OwnMouseOnly(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto host = std::find_if(hosts.begin(), hosts.end(), [&](const GuiHost* one) { return one->view_ == window; });
+    if (host == hosts.end() || (message == WM_MOUSEMOVE && lParam != (*host)->mousePosition_))
+    {
+        return 0;
+    }
+    return CallWindowProcW((*host)->viewerProcedure_, window, message, wParam, lParam);
 }
 
 void GuiHost::InitOnly(GUIUserType userType)
@@ -240,6 +257,10 @@ void GuiHost::Resize(int width, int height)
 
 void GuiHost::Send(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_MOUSEMOVE)
+    {
+        mousePosition_ = lParam;
+    }
     PostMessageW(view_, message, wParam, lParam);
     Frames(1);
 }

@@ -116,12 +116,16 @@ public:
 
 private:
     static LRESULT CALLBACK ViewProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Lies over the viewer's own procedure and keeps the machine's real pointer away from it.
+    static LRESULT CALLBACK OwnMouseOnly(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void Pump();
 
     int width_;
     int height_;
     HWND main_ = nullptr;
     HWND view_ = nullptr;
+    WNDPROC viewerProcedure_ = nullptr;
+    LPARAM mousePosition_ = -1;  ///< of the last move that a test has made; none yet
     CWnd mainWnd_;
     osg::ref_ptr<osgViewer::Viewer> viewer_;
     osg::ref_ptr<osg::Group> root_;
