@@ -4,8 +4,12 @@
 #include "support/GTest.h"
 
 #include <MFCCommon/DynMenuCreater.h>
+#include <NxConfig/ParamConfig.h>
 
 #include <afxwin.h>
+
+#include <fstream>
+#include <iterator>
 
 namespace
 {
@@ -14,6 +18,12 @@ std::string TextAt(HMENU menu, int index)
     wchar_t text[300] = L"";
     GetMenuStringW(menu, static_cast<UINT>(index), text, 300, MF_BYPOSITION);
     return Utf8(text);
+}
+
+std::string ReadFile(const char* path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
 }
 
 UINT StateAt(HMENU menu, int index)
@@ -92,6 +102,59 @@ TEST_F(MenuTest, texts_from_the_translation)
     EXPECT_EQ(TextAt(Submenu(), 0), "添加");
     EXPECT_EQ(TextAt(Submenu(), 1), "LKEY99") << "a key without a translation is its own text";
     EXPECT_EQ(TextAt(Submenu(), 2), "添加") << "the key comes first";
+}
+
+TEST_F(MenuTest, the_example_of_the_documentation_is_read_as_it_says)
+{
+    const std::string document = ReadFile(NX_DOCS "/menus.md");
+    const std::size_t begin = document.find("```xml\n");
+    const std::size_t end = document.find("```", begin + 3);
+    ASSERT_LT(begin, end);
+    folder_.Write(L"languages\\zh-CN.ini", ReadFile(NX_APP_DATA "/languages/zh-CN.ini"));
+    ASSERT_TRUE(Load(document.substr(begin + 7, end - begin - 7)));
+    EXPECT_EQ(TextAt(creater_.GetMenu(), 0), "Scene");
+    const HMENU scene = Submenu();
+    ASSERT_EQ(GetMenuItemCount(scene), 5);
+    EXPECT_EQ(GetMenuItemID(scene, 0), 40101u);
+    EXPECT_EQ(TextAt(scene, 0), "在此处添加视点");
+    EXPECT_TRUE(StateAt(scene, 1) & MF_SEPARATOR);
+    EXPECT_EQ(GetMenuItemID(scene, 2), 40201u);
+    EXPECT_EQ(TextAt(scene, 2), "Reset the camera");
+    EXPECT_EQ(TextAt(scene, 3), "Time of day");
+    const HMENU times = GetSubMenu(scene, 3);
+    ASSERT_EQ(GetMenuItemCount(times), 2);
+    EXPECT_TRUE(StateAt(times, 0) & MF_CHECKED);
+    EXPECT_FALSE(StateAt(times, 1) & MF_CHECKED);
+    EXPECT_TRUE(StateAt(scene, 4) & MF_GRAYED);
+    EXPECT_TRUE(TestFolder::TakeLog().empty());
+}
+
+TEST_F(MenuTest, the_applications_own_scene_menu_offers_its_commands_in_both_languages)
+{
+    const struct
+    {
+        const char* language;
+        std::vector<std::string> texts;
+    } rows[] = {
+        {"zh-CN", {"在此处添加视点", "", "重置镜头", "全场景", "", "编辑标题..."}},
+        {"en", {"Add a view here", "", "Reset the camera", "Full scene", "", "Edit the title..."}},
+    };
+    folder_.Write(L"languages\\zh-CN.ini", ReadFile(NX_APP_DATA "/languages/zh-CN.ini"));
+    folder_.Write(L"languages\\en.ini", ReadFile(NX_APP_DATA "/languages/en.ini"));
+    const UINT commands[] = {40101, 0, 40201, 40202, 0, 40203};
+    for (const auto& row : rows)
+    {
+        CParamConfig::getInstance()->setStringParam("Language", row.language);
+        ASSERT_TRUE(Load(ReadFile(NX_APP_DATA "/sysmid/RButtonMenu.xml")));
+        ASSERT_EQ(GetMenuItemCount(Submenu()), 6);
+        for (int i = 0; i < 6; ++i)
+        {
+            EXPECT_EQ(TextAt(Submenu(), i), row.texts[static_cast<std::size_t>(i)]);
+            EXPECT_EQ(GetMenuItemID(Submenu(), i), commands[i]) << i;
+        }
+    }
+    CParamConfig::getInstance()->setStringParam("Language", "zh-CN");
+    EXPECT_TRUE(TestFolder::TakeLog().empty());
 }
 
 TEST_F(MenuTest, comments_declarations_entities_and_a_byte_order_mark_are_fine)
