@@ -58,6 +58,8 @@ void MenuLog::OnMessage(UINT message, WPARAM wParam, LPARAM)
         menus_.push_back(ItemsOf(reinterpret_cast<HMENU>(wParam)));
         if (menus_.size() == 1)
         {
+            menu = reinterpret_cast<HMENU>(wParam);
+            place = {};
             editedWhileOpen = CString2string(CeGuiMainFrame::GetInstance()->GetEditWindowName());
             SetTimer(window, KeysTimer, KeysAfter, nullptr);
             SetTimer(window, GiveUpTimer, GiveUpAfter, nullptr);
@@ -65,6 +67,10 @@ void MenuLog::OnMessage(UINT message, WPARAM wParam, LPARAM)
         break;
     case WM_TIMER:
         KillTimer(window, wParam);
+        if (const HWND popup = FindWindowW(L"#32768", nullptr))
+        {
+            GetWindowRect(popup, &place);
+        }
         if (wParam == GiveUpTimer || (wParam == KeysTimer && keys_.empty()))
         {
             EndMenu();

@@ -25,6 +25,9 @@ public:
     /// The commands that the main window received since the last call.
     std::vector<UINT> TakeCommands();
 
+    /// Of the first popup since the last `TakeMenus`: its handle, and the place of its window on the screen.
+    HMENU menu = nullptr;
+    RECT place = {};
     /// What `CeGuiMainFrame::GetEditWindowName` said while the last menu was open.
     std::string editedWhileOpen;
 

@@ -53,6 +53,36 @@ TEST_F(LongListTest, survives_resize_full_scene_and_closing)
     ExpectRowsInSight(1000);
 }
 
+TEST_F(LongListTest, survives_the_end_and_the_start_of_the_interface)
+{
+    OpenScrolling(1000);
+    Drag(100);
+    Restart(GUI_USER_FULL);
+    MakeContextCurrent();
+    EXPECT_EQ(GuiHost::Find(ListPicture), nullptr);
+    Frame().OpenPropertyDlg(nullptr, true);
+    Refresh(NumberedRows(1000));
+    ExpectRowsInSight(1000);
+    Drag(150);
+    ExpectRowsInSight(1000);
+}
+
+TEST_F(LongListTest, survives_a_view_too_small_for_it)
+{
+    OpenScrolling(1000);
+    Drag(100);
+    Host().Resize(230, 190);
+    EXPECT_EQ(GuiHost::Find(ListPicture), nullptr);
+    MakeContextCurrent();
+    EXPECT_FALSE(Frame().RefreshPropertyDlg());
+    Host().Resize(ViewWidth, ViewHeight);
+    MakeContextCurrent();
+    ExpectRowsInSight(1000);
+    Refresh(NumberedRows(1000));
+    Drag(150);
+    ExpectRowsInSight(1000);
+}
+
 TEST_F(LongListTest, rows_taken_away_under_a_scrolled_list_do_no_harm)
 {
     OpenScrolling(1000);
