@@ -149,9 +149,18 @@ int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString h
         item.heightScale = buttonHeight / static_cast<float>(Height());
         item.window->setPosition(CEGUI::UVector2(Relative(item.xScale), Relative(item.yScale)));
         item.window->setSize(CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
-        if (normal)
+        const struct
         {
-            FileImagesets::ApplyToButton(*item.window, *normal, hover ? *hover : *normal, pushed ? *pushed : *normal);
+            const char* property;
+            const CEGUI::Image* image;
+        } pictures[] = {
+            {"NormalImage", normal}, {"HoverImage", hover ? hover : normal}, {"PushedImage", pushed ? pushed : normal}};
+        for (const auto& picture : pictures)
+        {
+            if (picture.image)
+            {
+                FileImagesets::Apply(*item.window, picture.property, *picture.image);
+            }
         }
     }
     catch (...)

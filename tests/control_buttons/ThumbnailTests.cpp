@@ -66,12 +66,31 @@ TEST_F(ThumbnailTest, pictures_of_every_format_and_shape)
     }
 }
 
-TEST_F(ThumbnailTest, a_big_photograph)
+TEST_F(ThumbnailTest, a_picture_of_8000_by_6000_pixels)
 {
-    ExpectComposed(L"big", Write(L"big.bmp", Bmp24(Solid(4000, 3000, Yellow))), 0);
-    const PictureFile thumbnail = ReadPictureFile(NormalFile(7));
-    ASSERT_EQ(thumbnail.width, 126);
-    EXPECT_EQ(thumbnail.Argb(20, 20), Yellow);
+    // A bit a pixel keeps the file small; drawn it has all of its 48 million pixels.
+    constexpr std::uint32_t Width = 8000;
+    constexpr std::uint32_t Height = 6000;
+    constexpr std::uint32_t Size = Width / 8 * Height;
+    Bytes bytes = {'B', 'M'};
+    for (const std::uint32_t value : {62 + Size, 0u, 62u, 40u, Width, Height, 0x00010001u, 0u, Size, 0u, 0u, 2u, 0u,
+                                      Yellow & 0xFFFFFF, Red & 0xFFFFFF})
+    {
+        for (int i = 0; i < 4; ++i)
+        {
+            bytes.push_back(static_cast<std::uint8_t>(value >> 8 * i));
+        }
+    }
+    bytes.resize(62 + Size);
+    std::fill(bytes.begin() + 62, bytes.begin() + 62 + Size / 2, static_cast<std::uint8_t>(0xFF));
+    EXPECT_EQ(MakeThumbnail(L"", Write(L"big.bmp", bytes), 7, 0), L"new_skin/TavGuiButtonImg7");
+    for (const CString& file : {NormalFile(7), PushedFile(7)})
+    {
+        const PictureFile thumbnail = ReadPictureFile(file);
+        ASSERT_EQ(thumbnail.width, 126);
+        EXPECT_EQ(thumbnail.Argb(20, 20), Yellow);
+        EXPECT_EQ(thumbnail.Argb(20, 70), Red) << "the file's first rows are the lowest";
+    }
 }
 
 TEST_F(ThumbnailTest, a_missing_picture_is_replaced_by_the_placeholder)

@@ -70,6 +70,9 @@ TEST_F(ButtonImages, missing_pictures_of_a_new_button_are_its_normal_one)
         {L"normal.bmp", L"", L"pushed.bmp", std::string(Normal) + " " + Normal + " " + Pushed},
         {L"normal.bmp", L"hover.bmp", L"", std::string(Normal) + " " + Hover + " " + Normal},
         {L"normal.bmp", L"", L"", std::string(Normal) + " " + Normal + " " + Normal},
+        {L"", L"hover.bmp", L"pushed.bmp", std::string(" ") + Hover + " " + Pushed},
+        {L"", L"hover.bmp", L"", std::string(" ") + Hover + " "},
+        {L"", L"", L"pushed.bmp", std::string("  ") + Pushed},
         {L"", L"", L"", "  "},
     };
     for (const auto& row : rows)
