@@ -112,6 +112,42 @@ const std::vector<Operation>& Operations()
              f.setTargetData(rows);
              EXPECT_TRUE(f.getTargetData() == rows);
          }},
+        {"PropertyRowCount", [](F& f) { EXPECT_EQ(f.PropertyRowCount(), 2); }},
+        {"PropertyRowName",
+         [](F& f)
+         {
+             EXPECT_EQ(Utf8(f.PropertyRowName(1)), "length");
+             EXPECT_EQ(Utf8(f.PropertyRowName(-1)), "");
+             EXPECT_EQ(Utf8(f.PropertyRowName(2)), "");
+         }},
+        {"OpenPropertyDlg", [](F& f) { f.OpenPropertyDlg(nullptr, true); EXPECT_TRUE(f.IsOpenPropertyDlg()); }},
+        {"RefreshPropertyDlg", [](F& f) { f.RefreshPropertyDlg(); }},
+        {"IsNeedRefreshPropertyDlg", [](F& f) { EXPECT_FALSE(f.IsNeedRefreshPropertyDlg(CPoint(5000, 0))); }},
+        {"ClosePropertyDlg", [](F& f) { f.ClosePropertyDlg(); EXPECT_TRUE(f.IsOpenPropertyDlg()); }},
+        {"OpenPropertyDlg to close", [](F& f) { f.OpenPropertyDlg(nullptr, false); EXPECT_FALSE(f.IsOpenPropertyDlg()); }},
+        {"RefreshPropertyDlg of the closed panel", [](F& f) { EXPECT_FALSE(f.RefreshPropertyDlg()); }},
+        {"DestroyTooltipWindow without one", [](F& f) { f.DestroyTooltipWindow(); }},
+        {"CreateTooltipWindow", [](F& f) { f.CreateTooltipWindow(10, 100, L"tooltip"); }},
+        {"CreateTooltipWindow without a text", [](F& f) { f.CreateTooltipWindow(10, 100, L""); }},
+        {"DestroyTooltipWindow", [](F& f) { f.DestroyTooltipWindow(); }},
+        {"ClearStaPageParameter",
+         [](F& f)
+         {
+             f.ClearStaPageParameter();
+             EXPECT_NE(f.GetStaPageParameter().titleSize, 77);
+         }},
+        {"EnableSlideOut",
+         [](F& f)
+         {
+             f.EnableSlideOut(true);
+             EXPECT_TRUE(f.IsSlideOutEnabled());
+             f.EnableSlideOut(false);
+             EXPECT_FALSE(f.IsSlideOutEnabled());
+         }},
+        {"MakeContextCurrent", [](F& f) { f.MakeContextCurrent(); }},
+        {"GetUser", [](F& f) { EXPECT_EQ(f.GetUser(), GUI_USER_FULL); }},
+        {"GetGUINode", [](F& f) { EXPECT_EQ(f.GetGUINode().valid(), f.IsInit()); }},
+        {"GetEditWindowName", [](F& f) { EXPECT_EQ(Utf8(f.GetEditWindowName()), ""); }},
         {"CreateToolBar", [](F& f) { f.CreateToolBar(); }},
         {"OnToolBarRCList", [](F& f) { f.OnToolBarRCList(nullptr); }},
         {"OnToolBarRCList again", [](F& f) { f.OnToolBarRCList(nullptr); }},
