@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 # OpenSceneGraph, CEGUI 0.8 and OpenGL as the one target nx_scene; GDI+, USER, GDI and the registry as nx_win32.
+include_guard(GLOBAL)
 find_package(OpenSceneGraph 3.6 REQUIRED COMPONENTS osgDB osgGA osgUtil osgViewer)
 
 # CEGUI 0.8 ships no CMake package.

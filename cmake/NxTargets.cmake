@@ -4,8 +4,12 @@
 if(NX_WINELIB)
     include(${CMAKE_CURRENT_LIST_DIR}/../platform/winelib/Winelib.cmake)
 else()
+    set(NX_MODULE_SOURCE ${CMAKE_CURRENT_LIST_DIR}/module.cpp.in)
+    # A module with the plain C export NAMEVersion().
     function(nx_add_dll name)
-        add_library(${name} SHARED ${ARGN})
+        set(NX_MODULE ${name})
+        configure_file(${NX_MODULE_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}_module.cpp @ONLY)
+        add_library(${name} SHARED ${ARGN} ${CMAKE_CURRENT_BINARY_DIR}/${name}_module.cpp)
     endfunction()
     function(nx_use_dll target)
         target_link_libraries(${target} PRIVATE ${ARGN})

@@ -22,7 +22,7 @@ function(nx_add_dll name)
     add_dependencies(${name} ${name}_implib)
     target_link_libraries(${name} PRIVATE ${generated}/${name}.spec)
     set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".dll.so" BUILD_RPATH "$ORIGIN"
-        LINK_DEPENDS ${generated}/${name}.spec
+        INSTALL_RPATH "$ORIGIN" LINK_DEPENDS ${generated}/${name}.spec
         NX_IMPLIB ${implib} NX_USE_SOURCE ${generated}/module_use.cpp)
     add_custom_command(TARGET ${name} POST_BUILD
         COMMAND ${CMAKE_COMMAND} -E create_symlink ${name}.dll.so $<TARGET_FILE_DIR:${name}>/${name}.dll VERBATIM)
