@@ -6,6 +6,7 @@
 #include <panels/FontNames.h>
 #include <panels/TitleEditDialog.h>
 
+#include <algorithm>
 #include <set>
 
 namespace
@@ -98,6 +99,58 @@ TEST_F(FontListTest, a_font_that_is_not_listed_selects_the_first_and_stays)
     const Lines log = TakeLog();
     ASSERT_EQ(log.size(), 1u);
     EXPECT_NE(log[0].find("No Such Family"), std::string::npos) << log[0];
+}
+
+TEST_F(FontListTest, a_face_that_is_gone_leaves_no_text_and_a_line_in_the_log_until_another_is_chosen)
+{
+    const std::vector<Pixel> before = TitleBarPixels();
+    Frame().SetSceneTitleFontStyle(L"Gone Since");
+    OpenByDoubleClick();
+    Confirm();
+    const Lines log = TakeLog();
+    ASSERT_EQ(log.size(), 1u);
+    EXPECT_NE(log[0].find("Gone Since"), std::string::npos) << log[0];
+    const std::vector<Pixel> none = TitleBarPixels();
+    OpenTitleEditDialog();
+    ChooseFont(Font);
+    Confirm();
+    EXPECT_TRUE(TitleBarPixels() == before);
+    EXPECT_TRUE(none == PixelsOf(L"", 0xE1C8C5, Font, 16.0f)) << "no text";
+}
+
+TEST_F(FontListTest, holds_shape_fonts_by_their_file_names_and_no_folders)
+{
+    const ShxFile file(L"nxshape.SHX");
+    const ShxFile other(L"nxshape.txt");
+    const CString folder = AppDir() + L"Fonts\\nxfolder.shx";
+    CreateDirectoryW(folder, nullptr);
+    OpenByDoubleClick();
+    const Names entries = Entries(Control(FontList));
+    RemoveDirectoryW(folder);
+    EXPECT_EQ(std::count(entries.begin(), entries.end(), "nxshape.SHX"), 1);
+    for (const std::string& entry : entries)
+    {
+        EXPECT_EQ(entry.find("nxfolder"), std::string::npos);
+        EXPECT_EQ(entry.find("nxshape.txt"), std::string::npos);
+        EXPECT_NE(entry[0], '.');
+    }
+}
+
+TEST_F(FontListTest, without_the_folder_of_shape_fonts_holds_the_installed_ones)
+{
+    const CString folder = AppDir() + L"Fonts";
+    ASSERT_TRUE(MoveFileW(folder, folder + L".taken"));
+    const std::vector<CString> names = InstalledFontNames();
+    EXPECT_TRUE(MoveFileW(folder + L".taken", folder));
+    EXPECT_FALSE(names.empty());
+    EXPECT_EQ(names.size(), InstalledFontNames().size());
+}
+
+TEST_F(FontListTest, is_sorted)
+{
+    OpenByDoubleClick();
+    EXPECT_TRUE(GetWindowLongPtrW(Control(FontList), GWL_STYLE) & CBS_SORT);
+    EXPECT_EQ(Filled({L"Beta", L"Alpha", L"Gamma"}), (Names{"Alpha", "Beta", "Gamma"}));
 }
 
 TEST_F(FontListTest, a_shape_font_leaves_no_text_and_a_line_in_the_log_until_another_is_chosen)

@@ -10,6 +10,12 @@ protected:
     /// A key that is pressed and released in the window that has the focus.
     static void Key(UINT key)
     {
+        if (!GetFocus())
+        {
+            // The display has told late that the window which had it before is gone.
+            SetForegroundWindow(Dialog());
+        }
+        ASSERT_TRUE(GetFocus());
         PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
         PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
         Host().Frames(1);
