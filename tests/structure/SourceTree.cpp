@@ -17,8 +17,9 @@ bool EndsWith(const std::string& text, const std::string& end)
 {
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
+} // namespace
 
-SourceFile Read(const std::string& path)
+SourceFile ReadSource(const std::string& path)
 {
     SourceFile file = {path, {}};
     std::ifstream stream(Full(path));
@@ -32,7 +33,6 @@ SourceFile Read(const std::string& path)
     }
     return file;
 }
-} // namespace
 
 std::vector<SourceFile> SourcesIn(const std::string& folder)
 {
@@ -57,7 +57,7 @@ std::vector<SourceFile> SourcesIn(const std::string& folder)
         }
         else if (EndsWith(name, ".cpp") || EndsWith(name, ".h"))
         {
-            files.push_back(Read(path));
+            files.push_back(ReadSource(path));
         }
     } while (FindNextFileA(search, &entry));
     FindClose(search);

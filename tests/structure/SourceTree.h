@@ -14,6 +14,9 @@ struct SourceFile
 /// Every .cpp and .h below a folder of the project.
 std::vector<SourceFile> SourcesIn(const std::string& folder);
 
+/// One file of the project; without lines when it is not there.
+SourceFile ReadSource(const std::string& path);
+
 /// What a file includes in quotes.
 std::vector<std::string> QuotedIncludes(const SourceFile& file);
 

@@ -39,8 +39,8 @@ std::vector<SourceFile> AllSources()
 
 TEST(Structure, sources_are_found)
 {
-    for (const char* folder : {"src/widgets", "src/panels", "src/control_buttons", "src/frame", "src/gui_host", "include",
-                               "services", "mfc"})
+    for (const char* folder :
+         {"src/widgets", "src/panels", "src/control_buttons", "src/frame", "src/gui_host", "include", "services", "mfc"})
     {
         EXPECT_FALSE(SourcesIn(folder).empty()) << folder;
     }
