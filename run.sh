@@ -3,6 +3,7 @@
 # Installs what is missing, builds, and opens the city host: in a window where there is a display, else as a tour.
 #   run.sh [--tour DIR] [HOST OPTIONS...]
 #   --tour DIR   lets the host show itself on a display of its own; pictures and index.html go to DIR (out/tour)
+#   --tour-part chrome|bars|objects   makes only this part of it
 #   --size WIDTHxHEIGHT, --user NUMBER, --language zh-CN|en, --samples NUMBER   for the host
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)

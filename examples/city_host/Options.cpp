@@ -31,6 +31,18 @@ bool SetTour(const CString& value, Options& options)
     return !value.IsEmpty();
 }
 
+bool SetTourPart(const CString& value, Options& options)
+{
+    options.tourPart = value;
+    return !value.IsEmpty();
+}
+
+bool SetPublication(const CString& value, Options& options)
+{
+    options.publicationFolder = value;
+    return !value.IsEmpty();
+}
+
 bool SetSize(const CString& value, Options& options)
 {
     const int cross = value.Find(L'x');
@@ -81,6 +93,8 @@ struct Switch
 
 const Switch switches[] = {
     {L"--tour", SetTour, L"a folder"},
+    {L"--tour-part", SetTourPart, L"chrome, bars, objects or documents"},
+    {L"--publication", SetPublication, L"the folder of a publication"},
     {L"--size", SetSize, L"WIDTHxHEIGHT in pixels"},
     {L"--user", SetUser, L"the number of a kind of user, 0 for the full one"},
     {L"--language", SetLanguage, L"zh-CN or en"},

@@ -12,6 +12,8 @@ namespace host
 struct Options
 {
     CString tourFolder;                  ///< where the tour's pictures go; empty: a live window
+    CString tourPart;                    ///< the part of the tour that is made; empty: all of it
+    CString publicationFolder;           ///< the publication that is shown; empty: the application itself
     CSize size = CSize(1280, 800);       ///< of the window, in pixels
     GUIUserType user = GUI_USER_FULL;
     CString language;                    ///< "zh-CN" or "en"; empty: what the parameters say

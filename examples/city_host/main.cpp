@@ -39,7 +39,7 @@ public:
 
     int Run() override
     {
-        return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_.tourFolder).Run();
+        return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_.tourFolder, options_.tourPart).Run();
     }
 
     int ExitInstance() override

@@ -4,15 +4,11 @@
 #include "ColorSelButton.h"
 
 #include <CommonCtrl/KWNumEdit.h>
+#include <NxOsgCeGui/TitleDialog.h>
 
 #include <afxwin.h>
 
 #include <vector>
-
-/// Opens the one dialog for the scene title, or shows it again with what its controls last held.
-void OpenTitleEditDialog();
-/// Destroys the dialog, if there is one.
-void CloseTitleEditDialog();
 
 /// Fills a combo box with names. One that begins another which is there already is left out.
 void FillFontList(CComboBox& list, const std::vector<CString>& names);

@@ -239,8 +239,8 @@ TEST_F(MenuTest, wrong_elements)
 
 TEST_F(MenuTest, wrong_ids)
 {
-    for (const char* id : {"0", "-1", "61440", "65536", "99999999999999999999", "4294967297", "", "x", "1x", " 1", "01", "0x10",
-                           "1.5", "+1"})
+    for (const char* id :
+         {"0", "-1", "61440", "65536", "99999999999999999999", "4294967297", "", "x", "1x", " 1", "01", "0x10", "1.5", "+1"})
     {
         ExpectRefused("<menus><menu text=\"a\"><item id=\"" + std::string(id) + "\" text=\"b\"/></menu></menus>",
                       "\"id\" is not a command from 1 to 61439: \"" + std::string(id) + "\"");

@@ -48,6 +48,8 @@ struct Building
     double greenRatio = 0.0; ///< of the site, in [0, 1]
     int year = 2000;         ///< of completion
     Label owner;
+    Label district;
+    Label address;
     Label designOffice;
     Label structure;
     double northing = 0.0;   ///< survey coordinate X, which counts northwards

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Register.h"
 
+#include "Address.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -127,6 +129,8 @@ Building& Enter(Site& site, Use use, const Polygon& footprint, double height, in
     building.designOffice = Chosen(site.random.Pick(kDesigners));
     building.structure = Structure(use, height);
     const osg::Vec2d centre = Centre(footprint);
+    building.district = DistrictAt(site.plan, centre);
+    building.address = AddressAt(site.plan, centre);
     building.northing = kNorthingOrigin + centre.y();
     building.easting = kEastingOrigin + centre.x();
     for (const osg::Vec2d& p : footprint)

@@ -138,6 +138,11 @@ void Sky::SetColours(const SkyColours& colours)
 
 void Sky::traverse(osg::NodeVisitor& visitor)
 {
+    if (visitor.getVisitorType() == osg::NodeVisitor::NODE_VISITOR)
+    {
+        osg::Group::traverse(visitor);
+        return;
+    }
     osgUtil::CullVisitor* cull = visitor.asCullVisitor();
     if (!cull || !cull->getProjectionMatrix() || !cull->getModelViewMatrix())
         return;

@@ -3,6 +3,7 @@
 
 #include "Actions.h"
 
+#include "../objects/ObjectRows.h"
 #include "../views/ViewList.h"
 #include "CityHost.h"
 #include "Language.h"
@@ -18,13 +19,18 @@ namespace host
 namespace
 {
 
-constexpr double WalkStep = 0.12;     ///< of the distance to the target
+constexpr double WalkStep = 0.12; ///< of the distance to the target
 constexpr double FlightSeconds = 1.0;
 constexpr int VideoKind = 1;
 
 const Words dayTimeNames[] = {{L"早晨", L"Morning"}, {L"正午", L"Noon"}, {L"傍晚", L"Evening"}, {L"夜晚", L"Night"}};
 
 } // namespace
+
+CString Actions::Publish(const GuiMessage&)
+{
+    return host_.Publisher().Ask();
+}
 
 CString Actions::StartRoaming(const GuiMessage&)
 {
@@ -52,8 +58,8 @@ CString Actions::ToggleMultisampling(const GuiMessage&)
         return Say({L"此窗口没有多重采样", L"this window has no multisampling"});
     }
     multisampling_ = !multisampling_;
-    host_.City().root->getOrCreateStateSet()->setMode(GL_MULTISAMPLE, multisampling_ ? osg::StateAttribute::ON
-                                                                                     : osg::StateAttribute::OFF);
+    host_.City().root->getOrCreateStateSet()->setMode(GL_MULTISAMPLE,
+                                                      multisampling_ ? osg::StateAttribute::ON : osg::StateAttribute::OFF);
     return multisampling_ ? Say({L"已开启", L"on"}) : Say({L"已关闭", L"off"});
 }
 
@@ -79,8 +85,40 @@ CString Actions::ToggleMusic(const GuiMessage&)
     return music_.Start() ? Say({L"循环播放", L"playing over and over"}) : Say({L"无法播放", L"it cannot be played"});
 }
 
+CString Actions::ShowProperties(const GuiMessage&)
+{
+    // The interface has toggled its panel already.
+    if (!CeGuiMainFrame::GetInstance()->IsOpenPropertyDlg())
+    {
+        return Say({L"已关闭", L"closed"});
+    }
+    host_.Properties().ShowObject();
+    const city::Building* const picked = host_.Properties().Picked();
+    return picked ? InLanguage(picked->name) : CString(Say({L"单击建筑查看其属性", L"click a building to see its data"}));
+}
+
+CString Actions::ShowLayers(const GuiMessage&)
+{
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    if (!frame.IsOpenPropertyDlg())
+    {
+        frame.OpenPropertyDlg(nullptr, true);
+        // The tool that shows the panel's state is drawn anew with the frame.
+        host_.RebuildInterface();
+    }
+    host_.Properties().ShowLayers(*host_.City().root);
+    return Say({L"场景图层", L"the scene's layers"});
+}
+
 CString Actions::ShowView(const GuiMessage& message)
 {
+    const CameraPose* const added = message.button ? host_.Views().Find(message.button->name) : nullptr;
+    if (added)
+    {
+        host_.Roaming().Stop();
+        host_.Camera().FlyTo(*added, FlightSeconds);
+        return message.button->target;
+    }
     const city::Viewpoint* viewpoint = message.button ? FindViewpoint(*message.button) : nullptr;
     if (!viewpoint)
     {
@@ -160,8 +198,7 @@ CString Actions::SwitchLanguage(const GuiMessage&)
 
 CString Actions::FlyHome(const GuiMessage&)
 {
-    host_.Roaming().Stop();
-    host_.Camera().FlyTo(CityHost::HomePose(), FlightSeconds);
+    host_.FlyHome();
     return CString();
 }
 

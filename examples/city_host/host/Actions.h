@@ -18,11 +18,14 @@ public:
     /// @param host outlives this
     explicit Actions(CityHost& host) : host_(host) {}
 
+    CString Publish(const GuiMessage& message);
     CString StartRoaming(const GuiMessage& message);
     CString StopRoaming(const GuiMessage& message);
     CString ToggleMultisampling(const GuiMessage& message);
     CString NextDayTime(const GuiMessage& message);
     CString ToggleMusic(const GuiMessage& message);
+    CString ShowProperties(const GuiMessage& message);
+    CString ShowLayers(const GuiMessage& message);
     CString ShowView(const GuiMessage& message);
     CString ToggleSlideOut(const GuiMessage& message);
     CString Close(const GuiMessage& message);

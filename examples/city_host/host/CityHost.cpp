@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CityHost.h"
 
-#include "../camera/SceneInput.h"
 #include "../city/Viewpoints.h"
 #include "../views/ViewPictures.h"
 #include "CommandTable.h"
@@ -23,6 +22,7 @@ constexpr DWORD FrameMilliseconds = 16;
 constexpr DWORD IdleMilliseconds = 100;
 /// No step of time is taken longer than that, so that what moves does not jump after a pause.
 constexpr double LongestStep = 0.25;
+constexpr double HomeFlightSeconds = 1.0;
 
 CeGuiMainFrame& Frame()
 {
@@ -39,21 +39,45 @@ CameraPose CityHost::HomePose()
 
 CityHost::CityHost(const Options& options)
     : options_(options), city_(city::BuildCity(CitySeed)), camera_(HomePose(), city_.radius), roam_(camera_), actions_(*this),
-      window_(options.size, *this)
+      menuActions_(*this), publishing_(*this), window_(options.size, *this)
 {
     viewer_ = MakeViewer(window_.View(), window_.ViewSize(), options_.samples);
     BuildScene();
     window_.Show();
     Realise(*viewer_);
     MakeViewPictures(*viewer_, *city_.root);
+    options_.publicationFolder.IsEmpty() ? OpenInterface() : ShowPublication();
+}
+
+void CityHost::ShowPublication()
+{
+    const Publication publication = ReadPublication(options_.publicationFolder);
+    options_.user = GUI_USER_RESTRICTED;
+    UseLanguage(publication.language);
+    Frame().SetSceneTitle(publication.title);
+    Frame().SetSceneTitleFontStyle(publication.titleFont);
+    Frame().SetSceneTitleColor(publication.titleColor);
+    Frame().SetSceneTitleFontHeight(publication.titleHeight);
+    camera_.SetPose(publication.pose);
+    viewer_->getCamera()->setViewMatrix(publication.pose.ViewMatrix());
+    startScreen_ = std::make_unique<StartScreen>(*viewer_->getSceneData()->asGroup(), publication.startPage);
+    ShowTitle();
+    NeedFrames(2);
+}
+
+void CityHost::OpenInterface()
+{
     gui_ = std::make_unique<GuiSession>(*viewer_, *guiSlot_, options_.user, options_.slideOut);
-    window_.SetTitle(Frame().GetSceneTitle());
+    ShowTitle();
     // The interface shows from its third frame on: the first draw is skipped, the second may build text pictures.
     NeedFrames(3);
 }
 
 CityHost::~CityHost()
 {
+    publishing_.CloseDialog();
+    startScreen_.reset();
+    menuActions_.CloseDialog();
     gui_.reset();
     toasts_.reset();
     // The context goes before the window that it draws in.
@@ -65,9 +89,10 @@ void CityHost::BuildScene()
     const osg::ref_ptr<osg::Group> root = new osg::Group;
     guiSlot_ = new osg::Group;
     const osg::ref_ptr<osg::Group> input = new osg::Group;
-    input->setEventCallback(new SceneInput(camera_));
+    input->setEventCallback(new SceneInput(camera_, *this));
     // Events reach them in this order: the interface has the first word.
     root->addChild(city_.root);
+    properties_ = std::make_unique<PropertyView>(city_, *root);
     root->addChild(guiSlot_);
     root->addChild(input);
     toasts_ = std::make_unique<Toasts>(*root);
@@ -95,7 +120,7 @@ bool CityHost::Step()
 bool CityHost::IsBusy() const
 {
     return !window_.IsMinimised() &&
-           (moving_ || framesDue_ > 0 || toasts_->IsChanging() || Clock::now() < barsMayMoveUntil_);
+           (moving_ || framesDue_ > 0 || toasts_->IsChanging() || tellPickAt_ || Clock::now() < barsMayMoveUntil_);
 }
 
 void CityHost::Pump()
@@ -108,6 +133,11 @@ void CityHost::Pump()
             closed_ = true;
             return;
         }
+        if (message.hwnd && GetAncestor(message.hwnd, GA_ROOT) != window_.Main().GetSafeHwnd())
+        {
+            // What is done in a dialog may change the scene's title or the control buttons.
+            NeedFrames(1);
+        }
         // A dialog over the view has its keys first.
         if (!AfxPreTranslateMessage(&message))
         {
@@ -115,39 +145,6 @@ void CityHost::Pump()
             DispatchMessageW(&message);
         }
     }
-}
-
-void CityHost::CarryOut()
-{
-    for (const UINT virtualKey : std::exchange(keys_, {}))
-    {
-        const HostKey& key = *FindHostKey(virtualKey);
-        const CString result = (actions_.*key.act)(GuiMessage());
-        CString origin;
-        origin.Format(Say({L"按键 %c", L"key %c"}), static_cast<wchar_t>(virtualKey));
-        toasts_->Show(CString(static_cast<wchar_t>(virtualKey)), Say(key.name), result.IsEmpty() ? origin : result);
-        NeedFrames(1);
-    }
-    for (const GuiMessage& message : std::exchange(messages_, {}))
-    {
-        CarryOut(message);
-    }
-}
-
-void CityHost::CarryOut(const GuiMessage& message)
-{
-    const Command* command = FindCommand(message.code);
-    const CString result = command && command->act ? (actions_.*command->act)(message) : CString();
-    CString code;
-    code.Format(L"%u", message.code);
-    CString detail;
-    detail.Format(Say({L"消息 %u，代码 %u", L"message %u, code %u"}), GUI_HOST_MESSAGE, message.code);
-    if (!result.IsEmpty())
-    {
-        detail += Say({L"　", L"  ·  "}) + result;
-    }
-    toasts_->Show(code, command ? Say(command->name) : Say({L"未知代码", L"Unknown code"}), detail);
-    NeedFrames(1);
 }
 
 bool CityHost::Advance()
@@ -170,7 +167,29 @@ bool CityHost::Advance()
     {
         NeedFrames(1);
     }
+    if (startScreen_)
+    {
+        AdvanceStartScreen(seconds);
+    }
+    ShowTitle();
     return framesDue_ > 0;
+}
+
+void CityHost::FollowFrame()
+{
+    UINT width = 0;
+    UINT height = 0;
+    Frame().GetWindowSize(width, height);
+    const CSize view(static_cast<int>(width), static_cast<int>(height));
+    if (view != laidOutFor_)
+    {
+        laidOutFor_ = view;
+        // The interface has built its panel anew, which gets its scroll bar when it is refreshed.
+        if (Frame().RefreshPropertyDlg())
+        {
+            NeedFrames(1);
+        }
+    }
 }
 
 bool CityHost::Draw()
@@ -180,10 +199,13 @@ bool CityHost::Draw()
         return false;
     }
     inFrame_ = true;
+    // Windows that came under the mouse since the last frame have set it; the frame's own events say where the mouse is.
+    Frame().SetDisplySystemMouse(false);
     // Counted first: what comes in while the frame handles its events asks for another one.
     --framesDue_;
     viewer_->frame();
     inFrame_ = false;
+    FollowFrame();
     return true;
 }
 
@@ -200,11 +222,49 @@ void CityHost::Sleep() const
     }
 }
 
+void CityHost::AdvanceStartScreen(double seconds)
+{
+    if (startScreen_->Advance(seconds, window_.ViewSize()))
+    {
+        NeedFrames(1);
+    }
+    if (startScreen_->IsOver())
+    {
+        startScreen_.reset();
+        OpenInterface();
+    }
+}
+
+void CityHost::ShowTitle()
+{
+    if (Frame().GetSceneTitle() != shownTitle_)
+    {
+        shownTitle_ = Frame().GetSceneTitle();
+        window_.SetTitle(shownTitle_);
+    }
+}
+
 void CityHost::SwitchLanguage(const CString& language)
 {
     gui_->Restart(language);
-    window_.SetTitle(Frame().GetSceneTitle());
+    publishing_.CloseDialog();
+    menuActions_.CloseDialog();
+    properties_->Refresh();
+    laidOutFor_ = CSize();
     NeedFrames(3);
+}
+
+void CityHost::RebuildInterface()
+{
+    gui_->Rebuild();
+    Frame().RefreshPropertyDlg();
+    NeedFrames(2);
+}
+
+void CityHost::FlyHome()
+{
+    roam_.Stop();
+    camera_.FlyTo(HomePose(), HomeFlightSeconds);
 }
 
 void CityHost::OnGuiMessage(UINT code, LPARAM value)
@@ -216,6 +276,34 @@ void CityHost::OnGuiMessage(UINT code, LPARAM value)
         message.button = *reinterpret_cast<const BTN_UNIT*>(value);
     }
     messages_.push_back(message);
+}
+
+void CityHost::OnMenuCommand(UINT id)
+{
+    if (FindMenuCommand(id))
+    {
+        menuCommands_.push_back(id);
+    }
+}
+
+void CityHost::OnSceneClick(CPoint point)
+{
+    if (startScreen_)
+    {
+        startScreen_->End();
+        return;
+    }
+    clicks_.push_back(point);
+}
+
+void CityHost::OnSceneDoubleClick()
+{
+    doubleClicked_ = !startScreen_;
+}
+
+bool CityHost::IsOnInterface(CPoint point) const
+{
+    return gui_ && gui_->IsOnFrame(point);
 }
 
 void CityHost::OnInput()
@@ -231,7 +319,11 @@ void CityHost::OnExpose()
 
 void CityHost::OnKey(UINT virtualKey)
 {
-    if (FindHostKey(virtualKey))
+    if (startScreen_)
+    {
+        startScreen_->End();
+    }
+    else if (FindHostKey(virtualKey))
     {
         keys_.push_back(virtualKey);
     }

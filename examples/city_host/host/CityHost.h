@@ -6,15 +6,22 @@
 #include "../Options.h"
 #include "../camera/OrbitCamera.h"
 #include "../camera/Roam.h"
+#include "../camera/SceneInput.h"
 #include "../city/City.h"
+#include "../publish/Publishing.h"
+#include "../publish/StartScreen.h"
 #include "../toast/Toasts.h"
+#include "../views/UserViews.h"
 #include "../window/HostWindow.h"
 #include "Actions.h"
 #include "GuiMessage.h"
 #include "GuiSession.h"
+#include "MenuActions.h"
+#include "PropertyView.h"
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace host
@@ -22,7 +29,7 @@ namespace host
 
 /// The host application: a window, a viewer with the city in it, the interface over it, and the loop that feeds all three.
 /// It draws when something has changed and sleeps otherwise.
-class CityHost : private HostWindowEvents
+class CityHost : private HostWindowEvents, private SceneEvents
 {
 public:
     /// @throws std::runtime_error without a window or context, CEGUI::Exception without a skin
@@ -45,9 +52,15 @@ public:
     OrbitCamera& Camera() { return camera_; }
     Roam& Roaming() { return roam_; }
     Toasts& Messages() { return *toasts_; }
+    PropertyView& Properties() { return *properties_; }
+    UserViews& Views() { return views_; }
+    Publishing& Publisher() { return publishing_; }
 
     void Close() { closed_ = true; }
     void SwitchLanguage(const CString& language);
+    /// Builds the interface's frame anew, as the control buttons now are.
+    void RebuildInterface();
+    void FlyHome();
     /// Where the camera starts.
     static CameraPose HomePose();
 
@@ -55,6 +68,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     void OnGuiMessage(UINT code, LPARAM value) override;
+    void OnMenuCommand(UINT id) override;
     void OnInput() override;
     void OnExpose() override;
     void OnKey(UINT virtualKey) override;
@@ -64,13 +78,26 @@ private:
     void OnCloseRequest() override { closed_ = true; }
     bool IsTitleHandle(CPoint point) const override;
     bool HasResizeEdges() const override;
+    void OnSceneClick(CPoint point) override;
+    void OnSceneDoubleClick() override;
+    bool IsOnInterface(CPoint point) const override;
 
     void BuildScene();
+    /// As a publication says; its start page comes before the interface.
+    void ShowPublication();
+    void OpenInterface();
     void Pump();
     void CarryOut();
     void CarryOut(const GuiMessage& message);
+    void CarryOut(const MenuCommand& command);
+    void CarryOutClicks();
+    void TellPick();
+    void FollowFrame();
     bool Advance();
     bool Draw();
+    void AdvanceStartScreen(double seconds);
+    /// The window is named after the scene.
+    void ShowTitle();
     void NeedFrames(int count);
     void Sleep() const;
 
@@ -83,16 +110,28 @@ private:
     bool moving_ = false;
     std::vector<GuiMessage> messages_;
     std::vector<UINT> keys_;
+    std::vector<UINT> menuCommands_;
+    std::vector<CPoint> clicks_;
+    bool doubleClicked_ = false;
+    /// When a picked building is told of, once no double click can come any more.
+    std::optional<Clock::time_point> tellPickAt_;
+    CSize laidOutFor_;  ///< size of the view that the panel was last refreshed for
 
     city::City city_;
     OrbitCamera camera_;
     Roam roam_;
     Actions actions_;
+    MenuActions menuActions_;
+    Publishing publishing_;
+    CString shownTitle_;
+    UserViews views_;
     HostWindow window_;
     osg::ref_ptr<osgViewer::Viewer> viewer_;
     osg::ref_ptr<osg::Group> guiSlot_;
+    std::unique_ptr<PropertyView> properties_;
     std::unique_ptr<Toasts> toasts_;
-    std::unique_ptr<GuiSession> gui_;
+    std::unique_ptr<StartScreen> startScreen_;  ///< null but at the start of a publication
+    std::unique_ptr<GuiSession> gui_;           ///< null until the start page has been seen
 };
 
 } // namespace host

@@ -11,10 +11,10 @@ namespace
 {
 
 const Command commands[] = {
-    {GUI_CMD_PUBLISH, {L"发布独立程序", L"Publish standalone program"}, nullptr},
+    {GUI_CMD_PUBLISH, {L"发布独立程序", L"Publish standalone program"}, &Actions::Publish},
     {GUI_CMD_ROAM, {L"漫游", L"Roam"}, &Actions::StartRoaming},
     {GUI_CMD_ANTIALIASING, {L"抗锯齿", L"Anti-aliasing"}, &Actions::ToggleMultisampling},
-    {GUI_CMD_DISPLAY_PROPERTIES, {L"显示属性", L"Display properties"}, nullptr},
+    {GUI_CMD_DISPLAY_PROPERTIES, {L"显示属性", L"Display properties"}, &Actions::ShowProperties},
     {GUI_CMD_MUSIC, {L"背景音乐", L"Background music"}, &Actions::ToggleMusic},
     {GUI_CMD_ENVIRONMENT, {L"效果环境", L"Effect environment"}, &Actions::NextDayTime},
     {GUI_CMD_CLOSE, {L"关闭", L"Close"}, &Actions::Close},
@@ -27,7 +27,7 @@ const Command commands[] = {
     {GUI_CMD_KEY_LEFT, {L"左方向键", L"Left key"}, &Actions::WalkLeft},
     {GUI_CMD_KEY_RIGHT, {L"右方向键", L"Right key"}, &Actions::WalkRight},
     {GUI_CMD_EDIT_TITLE, {L"编辑标题", L"Edit title"}, nullptr},
-    {GUI_CMD_DATA_MANAGEMENT, {L"数据管理", L"Data management"}, nullptr},
+    {GUI_CMD_DATA_MANAGEMENT, {L"数据管理", L"Data management"}, &Actions::ShowLayers},
 };
 
 const HostKey hostKeys[] = {

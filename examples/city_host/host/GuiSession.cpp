@@ -6,6 +6,9 @@
 #include "../views/ViewPictures.h"
 #include "Language.h"
 
+#include <exception>
+#include <utility>
+
 namespace host
 {
 namespace
@@ -19,8 +22,21 @@ CeGuiMainFrame& Frame()
 // The interface's title bar, in view pixels.
 constexpr LONG TitleBarHeight = 50;
 constexpr LONG TitleTextLeft = 50;
-constexpr LONG TitleTextRoom = 14;     ///< more than the text measures, for the difference between measurers
+constexpr LONG TitleTextRoom = 14; ///< more than the text measures, for the difference between measurers
 constexpr LONG ButtonsFromRight = 140;
+
+/// Each record carries its caption in both languages.
+void ExchangeLanguages(std::vector<BTN_UNIT>& records)
+{
+    for (BTN_UNIT& record : records)
+    {
+        // One without a caption is to stay so.
+        if (!record.target.IsEmpty())
+        {
+            std::swap(record.target, record.text);
+        }
+    }
+}
 
 } // namespace
 
@@ -28,6 +44,7 @@ GuiSession::GuiSession(osgViewer::Viewer& viewer, osg::Group& slot, GUIUserType 
     : viewer_(viewer), slot_(slot), user_(user)
 {
     Frame().EnableSlideOut(slideOut);
+    Frame().SetCtrlBtnInfo(MakeViewRecords(ViewPictureFolder()));
     Open();
 }
 
@@ -38,11 +55,6 @@ GuiSession::~GuiSession()
 
 void GuiSession::Open()
 {
-    if (!IsFontFamilyInstalled(Frame().GetSceneTitleFontStyle()))
-    {
-        Frame().SetSceneTitleFontStyle(Translation("LKEY11"));
-    }
-    Frame().SetCtrlBtnInfo(MakeViewRecords(ViewPictureFolder()));
     Frame().Init(&viewer_, user_);
     slot_.addChild(Frame().GetGUINode());
     // No resize event comes by itself, and the frame is built by one.
@@ -58,15 +70,52 @@ void GuiSession::Close()
 
 void GuiSession::Restart(const CString& language)
 {
+    const bool panelOpen = Frame().IsOpenPropertyDlg();
     Close();
+    const bool chinese = IsChinese();
+    const bool ownTitle = Frame().GetSceneTitle() != Translation("LKEY0");
     UseLanguage(language);
-    Frame().SetSceneTitle(Translation("LKEY0"));
+    if (IsChinese() != chinese)
+    {
+        ExchangeLanguages(Frame().GetCtrlBtnInfo());
+    }
+    if (!ownTitle)
+    {
+        Frame().SetSceneTitle(Translation("LKEY0"));
+    }
     Open();
+    // A start begins without the panel; the frame that is built next shows it.
+    Frame().OpenPropertyDlg(nullptr, panelOpen);
+}
+
+void GuiSession::Rebuild()
+{
+    try
+    {
+        Frame().ClearAllWindows();
+        Frame().CreateMainFrame();
+    }
+    catch (const std::exception&)
+    {
+        // The interface's log names the picture that is missing; the host goes on without a frame.
+    }
+    Frame().OnMouseMove(0, Frame().GetMousePoint());
+}
+
+bool GuiSession::IsOnTitleBar(CPoint point) const
+{
+    return Frame().IsInit() && !Frame().IsFullScene() && point.y >= 0 && point.y < TitleBarHeight && point.x >= 0;
+}
+
+bool GuiSession::IsOnFrame(CPoint point) const
+{
+    const bool onPanel = Frame().IsOpenPropertyDlg() && !Frame().IsNeedRefreshPropertyDlg(point);
+    return IsOnTitleBar(point) || onPanel;
 }
 
 bool GuiSession::IsTitleHandle(CPoint point) const
 {
-    if (!Frame().IsInit() || Frame().IsFullScene() || point.y < 0 || point.y >= TitleBarHeight || point.x < 0)
+    if (!IsOnTitleBar(point))
     {
         return false;
     }

@@ -21,12 +21,19 @@ public:
     /// Ends the interface and starts it again with the texts of a language.
     void Restart(const CString& language);
 
+    /// Builds the frame anew, as the control buttons now are. What the mouse is over slides in again.
+    void Rebuild();
+
+    /// Whether a point, in view pixels, lies on a part of the frame over which the interface does not report the mouse: the
+    /// title bar and the property panel.
+    bool IsOnFrame(CPoint point) const;
     /// Whether a point, in view pixels, is a part of the title bar with nothing on it.
     bool IsTitleHandle(CPoint point) const;
 
 private:
     void Open();
     void Close();
+    bool IsOnTitleBar(CPoint point) const;
 
     osgViewer::Viewer& viewer_;
     osg::Group& slot_;

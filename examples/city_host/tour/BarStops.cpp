@@ -1,38 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "BarStops.h"
 
-#include "User.h"
+#include "Places.h"
 
 namespace host
 {
 namespace
 {
 
-// Of the interface's tool bar and left list, in view pixels.
-constexpr int FirstToolX = 62;
-constexpr int ToolDistance = 92;
-constexpr int ToolFromBottom = 45;
-constexpr int ListX = 74;
-constexpr int ListEntryY = 111;
-constexpr int EntryDistance = 109;
 /// Milliseconds, of the ten ticks of 30 that a bar takes; drawing the frame of the picture takes its share.
 constexpr DWORD PartOfASlide = 30;
 constexpr DWORD Flight = 1200;
-
-CPoint Centre(const User& user)
-{
-    return CPoint(user.ViewSize().cx / 2, user.ViewSize().cy / 2);
-}
-
-CPoint Tool(const User& user, int number)
-{
-    return CPoint(FirstToolX + (number - 1) * ToolDistance, user.ViewSize().cy - ToolFromBottom);
-}
-
-CPoint Entry(int number)
-{
-    return CPoint(ListX, ListEntryY + (number - 1) * EntryDistance);
-}
 
 void MoveAway(User& user)
 {
@@ -40,24 +18,22 @@ void MoveAway(User& user)
 }
 
 template <int Number>
-void HoverTool(User& user)
+void Hover(User& user)
 {
-    user.WaitForNotes();
-    user.MoveTo(Centre(user));
-    user.MoveTo(Tool(user, Number));
+    HoverTool(user, Number);
 }
 
 template <int Number>
 void HoldTool(User& user)
 {
-    HoverTool<Number>(user);
+    HoverTool(user, Number);
     user.Press(Tool(user, Number));
 }
 
 /// Lets a held tool go between two tools, so that nothing is clicked.
 void ReleaseBetween(User& user)
 {
-    const CPoint between(FirstToolX + ToolDistance / 2, user.ViewSize().cy - ToolFromBottom);
+    const CPoint between((Tool(user, 1).x + Tool(user, 2).x) / 2, Tool(user, 1).y);
     user.MoveTo(between);
     user.Release(between);
     user.MoveTo(Centre(user));
@@ -65,7 +41,7 @@ void ReleaseBetween(User& user)
 
 void ClickEnvironment(User& user)
 {
-    HoverTool<3>(user);
+    HoverTool(user, 3);
     user.Click(Tool(user, 3));
     user.MoveTo(Centre(user));
 }
@@ -75,19 +51,11 @@ void EndDay(User& user)
     // Evening, night and morning bring the noon back.
     for (int i = 0; i < 3; ++i)
     {
-        HoverTool<3>(user);
+        HoverTool(user, 3);
         user.Click(Tool(user, 3));
     }
     user.MoveTo(Centre(user));
     user.WaitForNotes();
-}
-
-void OpenList(User& user)
-{
-    user.WaitForNotes();
-    user.MoveTo(Centre(user));
-    user.MoveTo(CPoint(4, Centre(user).y));
-    user.MoveTo(CPoint(ListX, Centre(user).y));
 }
 
 void ScrollList(User& user)
@@ -120,7 +88,7 @@ void PageDown(User& user)
 
 void HideList(User& user)
 {
-    HoverTool<1>(user);
+    HoverTool(user, 1);
     user.Click(Tool(user, 1));
 }
 
@@ -128,7 +96,7 @@ void SlideToolsOut(User& user)
 {
     user.Key('S');
     user.WaitForNotes();
-    HoverTool<2>(user);
+    HoverTool(user, 2);
     user.Wait();
     user.MoveTo(Centre(user));
     user.LetPass(PartOfASlide);
@@ -159,18 +127,18 @@ void Shrink(User& user)
 std::vector<TourStop> BarStops()
 {
     return {
-        {"tools-list", "The tool bar has slid in at the lower edge. The list's tool is down, since the list is on.", HoverTool<1>,
+        {"tools-list", "The tool bar has slid in at the lower edge. The list's tool is down, since the list is on.", Hover<1>,
          nullptr},
         {"tools-list-pushed", "The list's tool held down shows its other picture.", HoldTool<1>, ReleaseBetween},
-        {"tools-roam", "The mouse over the roam tool, with its tooltip.", HoverTool<2>, nullptr},
+        {"tools-roam", "The mouse over the roam tool, with its tooltip.", Hover<2>, nullptr},
         {"tools-roam-pushed", "The roam tool held down.", HoldTool<2>, ReleaseBetween},
-        {"tools-environment", "The mouse over the effect-environment tool.", HoverTool<3>, nullptr},
+        {"tools-environment", "The mouse over the effect-environment tool.", Hover<3>, nullptr},
         {"tools-environment-pushed", "The effect-environment tool held down.", HoldTool<3>, ReleaseBetween},
-        {"tools-property", "The mouse over the display-properties tool.", HoverTool<4>, nullptr},
+        {"tools-property", "The mouse over the display-properties tool.", Hover<4>, nullptr},
         {"tools-property-pushed", "The display-properties tool held down.", HoldTool<4>, ReleaseBetween},
-        {"tools-data", "The mouse over the data-management tool.", HoverTool<5>, nullptr},
+        {"tools-data", "The mouse over the data-management tool.", Hover<5>, nullptr},
         {"tools-data-pushed", "The data-management tool held down.", HoldTool<5>, ReleaseBetween},
-        {"tools-publish", "The mouse over the publish tool, which only the full user has.", HoverTool<6>, nullptr},
+        {"tools-publish", "The mouse over the publish tool, which only the full user has.", Hover<6>, nullptr},
         {"tools-publish-pushed", "The publish tool held down.", HoldTool<6>, ReleaseBetween},
         {"evening", "The effect-environment tool was clicked: the evening has come.", ClickEnvironment, EndDay},
         {"list", "The left list: one thumbnail for each view and video of the city.", OpenList, nullptr},

@@ -2,7 +2,11 @@
 #include "Stops.h"
 
 #include "BarStops.h"
-#include "User.h"
+#include "DocumentStops.h"
+#include "ObjectStops.h"
+#include "Places.h"
+
+#include <stdexcept>
 
 namespace host
 {
@@ -18,11 +22,6 @@ constexpr int FullSceneFromRight = 116;
 CPoint WindowButton(const User& user, int fromRight)
 {
     return CPoint(user.ViewSize().cx - fromRight, WindowButtonY);
-}
-
-CPoint Centre(const User& user)
-{
-    return CPoint(user.ViewSize().cx / 2, user.ViewSize().cy / 2);
 }
 
 template <int FromRight>
@@ -146,8 +145,9 @@ std::vector<TourStop> ChromeStops()
         {"minimise-pushed", "The minimise button held down.", HoldDown<MinimiseFromRight>, ReleaseOutside},
         {"full-scene-hover", "The mouse over the button for the full scene.", Hover<FullSceneFromRight>, nullptr},
         {"full-scene-pushed", "The button for the full scene held down.", HoldDown<FullSceneFromRight>, ReleaseOutside},
-        {"minimise-received", "The minimise button was clicked, and the window brought back from the task bar. The command "
-                              "came twice, to the main window and to the view.",
+        {"minimise-received",
+         "The minimise button was clicked, and the window brought back from the task bar. The command "
+         "came twice, to the main window and to the view.",
          Minimise, nullptr},
         {"orbit", "The scene dragged with the left button and brought nearer with the wheel.", OrbitAndZoom, nullptr},
         {"keys", "The Up and Right keys walk the camera; the notes say what the host received.", WalkByKeys, nullptr},
@@ -166,16 +166,27 @@ std::vector<TourStop> ChromeStops()
 
 } // namespace
 
-const std::vector<TourStop>& TourStops()
+std::vector<TourStop> TourStops(const CString& part)
 {
-    static const std::vector<TourStop> stops = []
+    static const struct
     {
-        std::vector<TourStop> all = ChromeStops();
-        const std::vector<TourStop> bars = BarStops();
-        all.insert(all.end(), bars.begin(), bars.end());
-        return all;
-    }();
-    return stops;
+        const wchar_t* name;
+        std::vector<TourStop> (*stops)();
+    } parts[] = {{L"chrome", ChromeStops}, {L"bars", BarStops}, {L"objects", ObjectStops}, {L"documents", DocumentStops}};
+    std::vector<TourStop> wanted;
+    for (const auto& candidate : parts)
+    {
+        if (part.IsEmpty() || part == candidate.name)
+        {
+            const std::vector<TourStop> stops = candidate.stops();
+            wanted.insert(wanted.end(), stops.begin(), stops.end());
+        }
+    }
+    if (wanted.empty())
+    {
+        throw std::runtime_error("the tour has no such part");
+    }
+    return wanted;
 }
 
 void CloseByButton(User& user)

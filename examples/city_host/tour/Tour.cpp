@@ -4,6 +4,7 @@
 #include "../host/CityHost.h"
 #include "Album.h"
 #include "FrameGrab.h"
+#include "ScreenGrab.h"
 #include "Stops.h"
 #include "User.h"
 
@@ -28,6 +29,52 @@ void TakePicture(CityHost& host, Album& album, const TourStop& stop)
     album.Add(stop.id, stop.caption, grab.Picture());
 }
 
+void TakeScreenPicture(CityHost& host, Album& album, const TourStop& stop)
+{
+    RECT area = {};
+    GetWindowRect(host.Window().Main(), &area);
+    album.Add(stop.id, stop.caption, *GrabScreen(area));
+}
+
+void Visit(CityHost& host, Album& album, User& user, const TourStop& stop)
+{
+    bool taken = false;
+    if (stop.screen)
+    {
+        user.WhileMenuIsOpen(
+            [&]
+            {
+                TakeScreenPicture(host, album, stop);
+                taken = true;
+            });
+    }
+    if (stop.act)
+    {
+        stop.act(user);
+    }
+    user.WhileMenuIsOpen(nullptr);
+    if (!stop.moving)
+    {
+        user.Wait();
+    }
+    if (stop.picture)
+    {
+        album.Add(stop.id, stop.caption, *stop.picture(user));
+    }
+    else if (!stop.screen)
+    {
+        TakePicture(host, album, stop);
+    }
+    else if (!taken)
+    {
+        TakeScreenPicture(host, album, stop);
+    }
+    if (stop.leave)
+    {
+        stop.leave(user);
+    }
+}
+
 } // namespace
 
 int Tour::Run()
@@ -39,24 +86,13 @@ int Tour::Run()
         User user(host_);
         user.Wait();
         int number = 0;
-        for (const TourStop& stop : TourStops())
+        const std::vector<TourStop> stops = TourStops(part_);
+        for (const TourStop& stop : stops)
         {
             place = stop.id;
-            std::printf("tour %2d/%d  %s\n", ++number, static_cast<int>(TourStops().size()), stop.id);
+            std::printf("tour %2d/%d  %s\n", ++number, static_cast<int>(stops.size()), stop.id);
             std::fflush(stdout);
-            if (stop.act)
-            {
-                stop.act(user);
-            }
-            if (!stop.moving)
-            {
-                user.Wait();
-            }
-            TakePicture(host_, album, stop);
-            if (stop.leave)
-            {
-                stop.leave(user);
-            }
+            Visit(host_, album, user, stop);
         }
         album.Finish();
         place = "the end";

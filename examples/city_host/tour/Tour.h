@@ -14,7 +14,8 @@ class Tour
 public:
     /// @param host outlives this
     /// @param folder for the pictures and their lists
-    Tour(CityHost& host, const CString& folder) : host_(host), folder_(folder) {}
+    /// @param part of the stops, as `TourStops` knows them; empty: all
+    Tour(CityHost& host, const CString& folder, const CString& part) : host_(host), folder_(folder), part_(part) {}
 
     /// @return the process's exit code: 0 when every stop was reached and no two pictures are the same
     int Run();
@@ -22,6 +23,7 @@ public:
 private:
     CityHost& host_;
     CString folder_;
+    CString part_;
 };
 
 } // namespace host

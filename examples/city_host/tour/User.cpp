@@ -4,6 +4,7 @@
 #include "../host/CityHost.h"
 
 #include <chrono>
+#include <exception>
 #include <stdexcept>
 
 namespace host
@@ -34,9 +35,108 @@ void TurnUntil(CityHost& host, Condition condition)
     }
 }
 
+/// What is done in the loop of a menu, by ticks of a timer.
+struct MenuScript
+{
+    MenuScript(HWND window, int downPresses, UINT endKey, std::function<void()> whileOpen)
+        : keysTo(window), downs(downPresses), end(endKey), action(std::move(whileOpen))
+    {
+    }
+
+    HWND keysTo;
+    int downs;
+    UINT end;
+    std::function<void()> action;
+    int tick = 0;
+    bool opened = false;
+    std::exception_ptr failure;
+};
+
+MenuScript* runningScript = nullptr;
+constexpr UINT TickMilliseconds = 150;
+constexpr int TicksWithoutMenu = 20;
+
+bool IsMenuOpen()
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    return GetGUIThreadInfo(GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE) != 0;
+}
+
+void PostKey(HWND window, UINT virtualKey)
+{
+    const LPARAM scanCode = static_cast<LPARAM>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)) << 16;
+    PostMessageW(window, WM_KEYDOWN, virtualKey, scanCode | 1);
+    PostMessageW(window, WM_KEYUP, virtualKey, scanCode | static_cast<LPARAM>(0xC0000001));
+}
+
+/// The control with the keyboard's focus. An open dialog that has lost it to the window behind gets it back first, as by a
+/// click on its caption: without a window manager the display may give it to either.
+HWND FocusedControl(HWND mainWindow)
+{
+    HWND dialog = nullptr;
+    while ((dialog = FindWindowExW(nullptr, dialog, L"#32770", nullptr)) != nullptr)
+    {
+        if (GetWindow(dialog, GW_OWNER) == mainWindow && IsWindowVisible(dialog) && !IsChild(dialog, GetFocus()))
+        {
+            SetForegroundWindow(dialog);
+            if (!IsChild(dialog, GetFocus()))
+            {
+                SetFocus(GetNextDlgTabItem(dialog, nullptr, FALSE));
+            }
+            break;
+        }
+    }
+    return GetFocus();
+}
+
+void CALLBACK OnMenuTick(HWND, UINT, UINT_PTR, DWORD)
+{
+    MenuScript& script = *runningScript;
+    if (!IsMenuOpen())
+    {
+        return;
+    }
+    script.opened = true;
+    switch (++script.tick)
+    {
+    case 1:
+        for (int i = 0; i < script.downs; ++i)
+        {
+            PostKey(script.keysTo, VK_DOWN);
+        }
+        break;
+    case 3:
+        try
+        {
+            if (script.action)
+            {
+                script.action();
+            }
+        }
+        catch (...)
+        {
+            // The system's loop must not be left by an exception.
+            script.failure = std::current_exception();
+        }
+        PostKey(script.keysTo, script.end);
+        break;
+    case TicksWithoutMenu:
+        EndMenu();
+        break;
+    default:
+        break;
+    }
+}
+
 } // namespace
 
 User::User(CityHost& host) : host_(host)
+{
+    ParkPointer();
+}
+
+void User::ParkPointer()
 {
     // The machine's own pointer would send moves of its own whenever the window changes under it.
     SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
@@ -108,10 +208,58 @@ void User::Wheel(CPoint point, int notches)
 
 void User::Key(UINT virtualKey)
 {
-    const LPARAM scanCode = static_cast<LPARAM>(MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC)) << 16;
-    PostMessageW(host_.Window().View(), WM_KEYDOWN, virtualKey, scanCode | 1);
+    PostKey(host_.Window().View(), virtualKey);
     Turn();
-    PostMessageW(host_.Window().View(), WM_KEYUP, virtualKey, scanCode | static_cast<LPARAM>(0xC0000001));
+}
+
+void User::RightClickMenu(CPoint point, int downs, UINT end)
+{
+    POINT screen = point;
+    ClientToScreen(host_.Window().View(), &screen);
+    SetCursorPos(screen.x, screen.y);
+    MoveTo(point);
+    MenuScript script(host_.Window().Main(), downs, end, whileMenuIsOpen_);
+    runningScript = &script;
+    const UINT_PTR timer = SetTimer(nullptr, 0, TickMilliseconds, OnMenuTick);
+    Send(WM_RBUTTONDOWN, MK_RBUTTON, point);
+    Send(WM_RBUTTONUP, 0, point);
+    for (int i = 0; i < TicksWithoutMenu && !script.opened; ++i)
+    {
+        LetPass(TickMilliseconds);
+    }
+    KillTimer(nullptr, timer);
+    runningScript = nullptr;
+    ParkPointer();
+    Wait();
+    if (script.failure)
+    {
+        std::rethrow_exception(script.failure);
+    }
+    if (!script.opened)
+    {
+        throw std::runtime_error("no menu has opened");
+    }
+}
+
+void User::Type(const CString& text)
+{
+    const HWND control = FocusedControl(host_.Window().Main());
+    for (int i = 0; i < text.GetLength(); ++i)
+    {
+        PostMessageW(control, WM_CHAR, static_cast<WPARAM>(text[i]), 1);
+    }
+    Turn();
+}
+
+void User::SelectAllInFocus()
+{
+    PostMessageW(FocusedControl(host_.Window().Main()), EM_SETSEL, 0, -1);
+    Turn();
+}
+
+void User::KeyToFocus(UINT virtualKey)
+{
+    PostKey(FocusedControl(host_.Window().Main()), virtualKey);
     Turn();
 }
 
@@ -128,7 +276,7 @@ void User::ResizeWindow(CSize size)
         MoveWindow(window, 0, 0, part.cx, part.cy, TRUE);
         Turn();
     }
-    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
+    ParkPointer();
     Wait();
     if (ViewSize() != size)
     {

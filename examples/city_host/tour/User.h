@@ -3,6 +3,9 @@
 
 #include <afxwin.h>
 
+#include <functional>
+#include <utility>
+
 namespace host
 {
 
@@ -26,6 +29,21 @@ public:
     /// Positive notches away from the user.
     void Wheel(CPoint point, int notches);
     void Key(UINT virtualKey);
+
+    /// A right click that opens a menu, whose own loop then runs: goes down its entries, and ends it with a key, after what
+    /// `WhileMenuIsOpen` was given. The machine's pointer is where the click is, since the menu opens there.
+    /// @param downs presses of the Down key
+    /// @param end VK_RETURN chooses the entry, VK_ESCAPE leaves the menu
+    /// @throws std::runtime_error when no menu opens
+    void RightClickMenu(CPoint point, int downs, UINT end);
+    /// To be called with the next menu open and the entry marked; null for nothing.
+    void WhileMenuIsOpen(std::function<void()> action) { whileMenuIsOpen_ = std::move(action); }
+
+    // What has the keyboard's focus, a dialog's control.
+    /// Replaces what is selected there.
+    void Type(const CString& text);
+    void KeyToFocus(UINT virtualKey);
+    void SelectAllInFocus();
     /// Drags the window to a size, as its edges do.
     void ResizeWindow(CSize size);
     /// As a click into the task bar does.
@@ -44,8 +62,10 @@ public:
 private:
     void Send(UINT message, WPARAM wParam, CPoint point);
     void Turn();
+    void ParkPointer();
 
     CityHost& host_;
+    std::function<void()> whileMenuIsOpen_;
 };
 
 } // namespace host

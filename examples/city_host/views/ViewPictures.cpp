@@ -22,6 +22,19 @@ constexpr int PictureHeight = 360;
 constexpr double NearPlane = 1.0;
 constexpr double FarPlane = 20000.0;
 
+osg::ref_ptr<osg::Image> MakePicture()
+{
+    const osg::ref_ptr<osg::Image> picture = new osg::Image;
+    picture->allocateImage(PictureWidth, PictureHeight, 1, GL_RGB, GL_UNSIGNED_BYTE);
+    return picture;
+}
+
+void MakeFolder()
+{
+    CreateDirectoryW(FileOp::GetAppPath() + L"data", nullptr);
+    CreateDirectoryW(ViewPictureFolder(), nullptr);
+}
+
 CString PictureFile(const city::Viewpoint& viewpoint)
 {
     return ViewPictureFolder() + Utf8ToCString(viewpoint.id) + L".png";
@@ -51,8 +64,7 @@ CString ViewPictureFolder()
 
 void MakeViewPictures(osgViewer::Viewer& viewer, osg::Node& city)
 {
-    CreateDirectoryW(FileOp::GetAppPath() + L"data", nullptr);
-    CreateDirectoryW(ViewPictureFolder(), nullptr);
+    MakeFolder();
     const osg::ref_ptr<osg::Node> scene = viewer.getSceneData();
     for (const city::Viewpoint& viewpoint : city::Viewpoints())
     {
@@ -60,8 +72,7 @@ void MakeViewPictures(osgViewer::Viewer& viewer, osg::Node& city)
         {
             continue;
         }
-        const osg::ref_ptr<osg::Image> picture = new osg::Image;
-        picture->allocateImage(PictureWidth, PictureHeight, 1, GL_RGB, GL_UNSIGNED_BYTE);
+        const osg::ref_ptr<osg::Image> picture = MakePicture();
         const osg::ref_ptr<osg::Camera> camera = MakeCamera(city, *picture);
         camera->setViewMatrix(city::ViewMatrix(viewpoint));
         viewer.setSceneData(camera);
@@ -69,6 +80,19 @@ void MakeViewPictures(osgViewer::Viewer& viewer, osg::Node& city)
         WritePng(PictureFile(viewpoint), *picture);
     }
     viewer.setSceneData(scene);
+}
+
+bool TakeViewPicture(osgViewer::Viewer& viewer, osg::Node& city, const osg::Matrixd& viewMatrix, const CString& file)
+{
+    MakeFolder();
+    osg::Group& scene = *viewer.getSceneData()->asGroup();
+    const osg::ref_ptr<osg::Image> picture = MakePicture();
+    const osg::ref_ptr<osg::Camera> camera = MakeCamera(city, *picture);
+    camera->setViewMatrix(viewMatrix);
+    scene.addChild(camera);
+    viewer.frame();
+    scene.removeChild(camera);
+    return WritePng(file, *picture);
 }
 
 } // namespace host

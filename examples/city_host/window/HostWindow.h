@@ -15,6 +15,8 @@ public:
 
     /// The interface's message, received by the main window or by the view.
     virtual void OnGuiMessage(UINT code, LPARAM value) = 0;
+    /// An entry of a menu, received by the main window.
+    virtual void OnMenuCommand(UINT id) = 0;
     /// Mouse or keys have come, or the picture has to be shown again.
     virtual void OnInput() = 0;
     virtual void OnExpose() = 0;
@@ -63,6 +65,8 @@ private:
     void LimitSize(MINMAXINFO& limits) const;
     /// A move over a part of the view that only the system sees, told to the view all the same.
     void PassMoveToView(POINT screenPoint) const;
+    /// Moves the mouse a pixel aside and back, as far as the view is concerned.
+    void PostTwitch(UINT flags, CPoint point) const;
     /// Asks to be told when the mouse leaves the view.
     void WatchForLeaving() const;
 

@@ -35,6 +35,13 @@ LRESULT HostWindow::OnMain(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case GUI_HOST_MESSAGE:
         events_.OnGuiMessage(static_cast<UINT>(wParam), lParam);
         return 0;
+    case WM_COMMAND:
+        if (lParam == 0 && HIWORD(wParam) == 0)
+        {
+            events_.OnMenuCommand(LOWORD(wParam));
+            return 0;
+        }
+        break;
     case WM_NCCALCSIZE:
         // The whole window is client area: the interface draws the title bar and the borders.
         return wParam ? 0 : DefWindowProcW(window, message, wParam, lParam);

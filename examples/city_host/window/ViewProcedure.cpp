@@ -50,6 +50,11 @@ LRESULT HostWindow::OnView(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         events_.OnKey(static_cast<UINT>(wParam));
         events_.OnInput();
         break;
+    case WM_RBUTTONDOWN:
+        // The interface looks for what lies under the mouse when it moves, and a right click on an entry asks for its menu.
+        PostTwitch(static_cast<UINT>(wParam), CPoint(point.x, point.y));
+        events_.OnInput();
+        break;
     case WM_KEYUP:
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
@@ -57,7 +62,6 @@ LRESULT HostWindow::OnView(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_MBUTTONDOWN:
     case WM_MBUTTONUP:
     case WM_MBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
     case WM_RBUTTONUP:
     case WM_RBUTTONDBLCLK:
     case WM_MOUSEWHEEL:
@@ -67,6 +71,14 @@ LRESULT HostWindow::OnView(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         break;
     }
     return DefWindowProcW(window, message, wParam, lParam);
+}
+
+void HostWindow::PostTwitch(UINT flags, CPoint point) const
+{
+    for (const int aside : {1, 0})
+    {
+        PostMessageW(view_, WM_MOUSEMOVE, flags, MAKELPARAM(point.x + aside, point.y));
+    }
 }
 
 void HostWindow::WatchForLeaving() const
