@@ -7,6 +7,42 @@
 #include <gui_host/FontInstallation.h>
 #include <panels/FontNames.h>
 
+#include <sddl.h>
+
+namespace
+{
+const wchar_t* const FontListKey = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts";
+
+/// Nobody may write the machine's font list while the object lives.
+class LockedFontList
+{
+public:
+    LockedFontList()
+    {
+        RegOpenKeyExW(HKEY_LOCAL_MACHINE, FontListKey, 0, WRITE_DAC | READ_CONTROL, &key_);
+        Set(L"D:(D;;KW;;;WD)(A;;KA;;;WD)");
+    }
+    ~LockedFontList()
+    {
+        Set(L"D:(A;;KA;;;WD)");
+        RegCloseKey(key_);
+    }
+    LockedFontList(const LockedFontList&) = delete;
+    LockedFontList& operator=(const LockedFontList&) = delete;
+
+private:
+    void Set(const wchar_t* rights)
+    {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        EXPECT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(rights, SDDL_REVISION_1, &descriptor, nullptr));
+        EXPECT_EQ(RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, descriptor), ERROR_SUCCESS);
+        LocalFree(descriptor);
+    }
+
+    HKEY key_ = nullptr;
+};
+} // namespace
+
 class FontFailureTest : public FontInstallTest
 {
 protected:
@@ -135,6 +171,20 @@ TEST_F(FontFailureTest, a_folder_that_cannot_be_written_leaves_no_part_of_a_file
     EXPECT_FALSE(Registered(L"nxface06"));
     RemoveDirectoryW(SystemFont(FileOf(6) + L".part"));
     ExpectOneLine(Utf8(SystemFont(FileOf(6))));
+}
+
+TEST_F(FontFailureTest, without_the_right_to_write_the_list_the_font_is_there_all_the_same)
+{
+    AddAppFont(7);
+    {
+        const LockedFontList locked;
+        HKEY key = nullptr;
+        ASSERT_NE(RegCreateKeyExW(HKEY_LOCAL_MACHINE, FontListKey, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr), ERROR_SUCCESS);
+        EXPECT_TRUE(InstallSystemFont(Face(7), Name(7)));
+    }
+    EXPECT_TRUE(IsFontInstalled(Utf8ToCString(Face(7))));
+    EXPECT_FALSE(Registered(L"nxface07"));
+    EXPECT_EQ(TakeFontChanges(), 1);
 }
 
 TEST_F(FontFailureTest, an_interface_without_its_font_file_starts_and_says_so_once)

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "FontInstallTest.h"
 
+#include "support/RenamedFont.h"
+
 #include <KernelCommonUse/StringConvert.h>
 
-#include <algorithm>
-#include <cstring>
+#include <memory>
 
 namespace
 {
 const wchar_t* const FontList = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Fonts";
-/// The family of the tests' own font; its last two characters become a number.
-const std::string Family = "Nx Test Text";
 int fontChanges = 0;
 std::vector<CString> made;
 
@@ -30,27 +29,6 @@ std::unique_ptr<HKEY, CloseKey> OpenList(REGSAM access)
 std::uint64_t Whole(FILETIME time)
 {
     return std::uint64_t(time.dwHighDateTime) << 32 | time.dwLowDateTime;
-}
-
-/// In UTF-16 as a font file holds it, the high byte first.
-std::string BigEndian(const std::string& ascii)
-{
-    std::string bytes;
-    for (const char unit : ascii)
-    {
-        bytes += '\0';
-        bytes += unit;
-    }
-    return bytes;
-}
-
-void ReplaceAll(std::vector<std::uint8_t>& bytes, const std::string& from, const std::string& to)
-{
-    auto place = bytes.begin();
-    while ((place = std::search(place, bytes.end(), from.begin(), from.end())) != bytes.end())
-    {
-        place = std::copy(to.begin(), to.end(), place);
-    }
 }
 } // namespace
 
@@ -75,7 +53,7 @@ void FontInstallTest::TearDown()
 
 std::string FontInstallTest::Face(int number)
 {
-    return "Nx Face " + std::string(1, static_cast<char>('0' + number / 10)) + static_cast<char>('0' + number % 10) + "xx";
+    return "Nx Face " + std::string(1, static_cast<char>('0' + number / 10)) + static_cast<char>('0' + number % 10);
 }
 
 CString FontInstallTest::FileOf(int number)
@@ -87,12 +65,7 @@ CString FontInstallTest::FileOf(int number)
 
 CString FontInstallTest::AddAppFont(int number)
 {
-    std::vector<std::uint8_t> bytes = ReadBytes(CString(NX_TEST_FONT));
-    EXPECT_FALSE(bytes.empty());
-    EXPECT_EQ(Face(number).size(), Family.size());
-    ReplaceAll(bytes, Family, Face(number));
-    ReplaceAll(bytes, BigEndian(Family), BigEndian(Face(number)));
-    AddAppFile(FileOf(number), bytes);
+    AddAppFile(FileOf(number), RenamedFont(ReadBytes(CString(NX_TEST_FONT)), Utf8ToCString(Face(number))));
     return FileOf(number);
 }
 

@@ -49,13 +49,34 @@ TEST_F(StartPageTest, a_stored_record_comes_back_with_its_flags)
 {
     STAPAGE page;
     page.title = L"t";
+    page.projectName = L"p";
+    page.unitName = L"u";
+    page.titleColor = 1;
     page.projectColor = 0x123456;
+    page.unitColor = 3;
+    page.titleFont = L"tf";
+    page.projectFont = L"pf";
+    page.unitFont = L"uf";
+    page.titleSize = 5;
+    page.projectSize = 6;
     page.unitSize = 7;
     page.firstFlag = true;
     page.secondFlag = false;
     page.thirdFlag = true;
+    page.picture = L"x.bmp";
     frame_.SetStaPageParameter(page);
-    const STAPAGE& stored = frame_.GetStaPageParameter();
+    // By both ways of copying.
+    const STAPAGE stored(frame_.GetStaPageParameter());
+    EXPECT_EQ(page.projectName, stored.projectName);
+    EXPECT_EQ(page.unitName, stored.unitName);
+    EXPECT_EQ(page.titleColor, stored.titleColor);
+    EXPECT_EQ(page.unitColor, stored.unitColor);
+    EXPECT_EQ(page.titleFont, stored.titleFont);
+    EXPECT_EQ(page.projectFont, stored.projectFont);
+    EXPECT_EQ(page.unitFont, stored.unitFont);
+    EXPECT_EQ(page.titleSize, stored.titleSize);
+    EXPECT_EQ(page.projectSize, stored.projectSize);
+    EXPECT_EQ(page.picture, stored.picture);
     EXPECT_EQ(page.title, stored.title);
     EXPECT_EQ(page.projectColor, stored.projectColor);
     EXPECT_EQ(page.unitSize, stored.unitSize);
@@ -185,6 +206,16 @@ TEST_F(StartPageTest, the_title_of_the_start_page_is_stored_with_its_color)
     frame_.SetStartPageTitleColor(0x00123456);
     EXPECT_EQ(CString(L"滨江"), frame_.GetStartPageTitle());
     EXPECT_EQ(0x00123456u, frame_.GetStartPageTitleColor());
+}
+
+TEST_F(StartPageTest, the_held_record_follows_the_ini_file_at_a_reset_only)
+{
+    frame_.ClearStaPageParameter();
+    const FileReplaced later(IniFile(), Bytes("[发布独立程序文字]\n标题=later\n"));
+    EXPECT_EQ(CString(L"Riverside 2.0"), frame_.GetStaPageParameter().title);
+    frame_.ClearStaPageParameter();
+    EXPECT_EQ(CString(L"later"), frame_.GetStaPageParameter().title);
+    EXPECT_EQ(Bytes("[发布独立程序文字]\n标题=later\n"), ReadBytes(IniFile())) << "nothing writes it";
 }
 
 TEST_F(StartPageTest, a_record_that_is_changed_in_place_is_the_one_held_and_nothing_is_printed)
