@@ -3,7 +3,8 @@
 # Installs what is missing, builds, and opens the city host: in a window where there is a display, else as a tour.
 #   run.sh [--tour DIR] [HOST OPTIONS...]
 #   --tour DIR   lets the host show itself on a display of its own; pictures and index.html go to DIR (out/tour)
-#   --tour-part chrome|bars|objects   makes only this part of it
+#   --tour-part chrome|bars|objects|documents   makes only this part of it
+#   --publication DIR   shows what the host has published into this folder: its start page first, then the scene
 #   --size WIDTHxHEIGHT, --user NUMBER, --language zh-CN|en, --samples NUMBER   for the host
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)

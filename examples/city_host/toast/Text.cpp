@@ -42,29 +42,7 @@ private:
     HGDIOBJ formerFont_;
 };
 
-int CALLBACK NoteFamily(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found)
-{
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-}
-
 } // namespace
-
-bool IsFontFamilyInstalled(const CString& family)
-{
-    if (family.IsEmpty() || family.GetLength() >= LF_FACESIZE)
-    {
-        return false;
-    }
-    LOGFONTW wanted = {};
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    lstrcpynW(wanted.lfFaceName, family, LF_FACESIZE);
-    bool found = false;
-    const HDC dc = GetDC(nullptr);
-    EnumFontFamiliesExW(dc, &wanted, NoteFamily, reinterpret_cast<LPARAM>(&found), 0);
-    ReleaseDC(nullptr, dc);
-    return found;
-}
 
 CSize MeasureText(const CString& text, const CString& family, int pixels, bool bold)
 {

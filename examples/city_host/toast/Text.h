@@ -16,8 +16,6 @@ struct TextMask
     std::vector<unsigned char> coverage;
 };
 
-bool IsFontFamilyInstalled(const CString& family);
-
 /// @param pixels height of the letters' body
 CSize MeasureText(const CString& text, const CString& family, int pixels, bool bold = false);
 TextMask DrawTextMask(const CString& text, const CString& family, int pixels, bool bold = false);

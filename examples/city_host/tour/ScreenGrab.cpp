@@ -35,7 +35,8 @@ osg::ref_ptr<osg::Image> GrabScreen(const RECT& area)
     image->allocateImage(picture.GetWidth(), picture.GetHeight(), 1, GL_RGB, GL_UNSIGNED_BYTE);
     for (int y = 0; y < picture.GetHeight(); ++y)
     {
-        const auto* row = static_cast<const unsigned char*>(picture.GetBits()) + static_cast<std::ptrdiff_t>(y) * picture.GetPitch();
+        const auto* row =
+            static_cast<const unsigned char*>(picture.GetBits()) + static_cast<std::ptrdiff_t>(y) * picture.GetPitch();
         unsigned char* target = image->data(0, picture.GetHeight() - 1 - y);
         for (int x = 0; x < picture.GetWidth(); ++x)
         {
