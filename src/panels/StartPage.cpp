@@ -15,8 +15,8 @@
 namespace
 {
 // Where the lines stand on the picture, pixels.
-constexpr POINT TitlePlace = {41, 12};      // left and top
-constexpr POINT ProjectPlace = {250, 158};  // centre and bottom
+constexpr POINT TitlePlace = {41, 12};     // left and top
+constexpr POINT ProjectPlace = {250, 158}; // centre and bottom
 constexpr POINT UnitPlace = {250, 246};
 constexpr int FontWeight = 800;
 /// Added to a file's name while it is written; ends in the kind of picture that it is.

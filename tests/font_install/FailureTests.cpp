@@ -179,7 +179,8 @@ TEST_F(FontFailureTest, without_the_right_to_write_the_list_the_font_is_there_al
     {
         const LockedFontList locked;
         HKEY key = nullptr;
-        ASSERT_NE(RegCreateKeyExW(HKEY_LOCAL_MACHINE, FontListKey, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr), ERROR_SUCCESS);
+        ASSERT_NE(RegCreateKeyExW(HKEY_LOCAL_MACHINE, FontListKey, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr),
+                  ERROR_SUCCESS);
         EXPECT_TRUE(InstallSystemFont(Face(7), Name(7)));
     }
     EXPECT_TRUE(IsFontInstalled(Utf8ToCString(Face(7))));

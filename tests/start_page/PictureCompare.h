@@ -7,8 +7,8 @@
 /// How far a picture may lie from its reference, of 255 a component.
 struct Tolerance
 {
-    int most;      ///< at any pixel
-    double mean;   ///< over all pixels
+    int most;    ///< at any pixel
+    double mean; ///< over all pixels
 };
 
 /// On failure the actual picture, the expected one and what differs lie in the current folder as NAME-actual.png,

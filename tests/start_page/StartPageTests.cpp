@@ -114,8 +114,9 @@ TEST_F(StartPageTest, a_reset_prints_three_lines_at_their_places)
 
 TEST_F(StartPageTest, a_wide_project_name_stays_centred_and_is_clipped)
 {
-    const FileReplaced ini(IniFile(),
-                           Bytes("\xEF\xBB\xBF[发布独立程序文字]\n项目名称=滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城\n"));
+    const FileReplaced ini(
+        IniFile(),
+        Bytes("\xEF\xBB\xBF[发布独立程序文字]\n项目名称=滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城滨江新城\n"));
     frame_.ClearStaPageParameter();
     const RECT project = Difference(ReadPictureFile(Background()), ReadPictureFile(Printed()), {0, 100, 500, 170});
     EXPECT_LE(project.left, 4);

@@ -5,7 +5,7 @@ namespace
 {
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr std::size_t NameTag = 0x6E616D65;  // "name"
+constexpr std::size_t NameTag = 0x6E616D65; // "name"
 constexpr std::size_t FirstTable = 12;
 constexpr std::size_t TableEntry = 16;
 constexpr std::size_t NameHeader = 6;
@@ -68,9 +68,8 @@ std::vector<std::uint8_t> RenamedFont(std::vector<std::uint8_t> font, const CStr
     {
         const bool wide = Number(names, record, 2) != 1;
         const std::size_t old = strings + Number(names, record + 10, 2);
-        const Bytes text = IsFamilyName(Number(names, record + 6, 2))
-                               ? Encoded(family, wide)
-                               : Bytes(at(old), at(old + Number(names, record + 8, 2)));
+        const Bytes text = IsFamilyName(Number(names, record + 6, 2)) ? Encoded(family, wide)
+                                                                      : Bytes(at(old), at(old + Number(names, record + 8, 2)));
         Put(names, record + 8, text.size(), 2);
         Put(names, record + 10, names.size() - head, 2);
         names.insert(names.end(), text.begin(), text.end());

@@ -42,7 +42,7 @@ private:
 struct Placed
 {
     int id;
-    RECT rect;  // dialog units: left, top, width and height
+    RECT rect; // dialog units: left, top, width and height
 };
 
 std::string ClassOf(HWND window)
@@ -61,8 +61,8 @@ TEST_F(TemplateTest, texts_of_the_template)
 {
     const RawDialog dialog(TitleEdit);
     ASSERT_TRUE(dialog.Window());
-    const std::pair<int, const char*> texts[] = {{0, "Edit Title"}, {9000, "Text:"},  {9001, "Font:"}, {9002, "Text height:"},
-                                                 {9003, "Color:"},  {1, "Confirm"}, {2, "Exit"},     {4089, ""},
+    const std::pair<int, const char*> texts[] = {{0, "Edit Title"}, {9000, "Text:"}, {9001, "Font:"}, {9002, "Text height:"},
+                                                 {9003, "Color:"},  {1, "Confirm"},  {2, "Exit"},     {4089, ""},
                                                  {5015, ""}};
     for (const auto& [id, text] : texts)
     {
@@ -98,8 +98,9 @@ TEST_F(TemplateTest, places_of_the_controls)
 {
     const RawDialog dialog(TitleEdit);
     const Placed controls[] = {
-        {9000, {6, 18, 49, 8}},   {9001, {0, 37, 55, 8}},   {9002, {0, 62, 55, 8}},   {9003, {0, 84, 55, 8}},  {4089, {60, 14, 87, 14}},
-        {5015, {60, 59, 87, 14}}, {4052, {60, 80, 87, 14}}, {1, {30, 102, 50, 14}},   {2, {89, 102, 50, 14}},
+        {9000, {6, 18, 49, 8}},   {9001, {0, 37, 55, 8}},   {9002, {0, 62, 55, 8}},
+        {9003, {0, 84, 55, 8}},   {4089, {60, 14, 87, 14}}, {5015, {60, 59, 87, 14}},
+        {4052, {60, 80, 87, 14}}, {1, {30, 102, 50, 14}},   {2, {89, 102, 50, 14}},
     };
     for (const Placed& control : controls)
     {
