@@ -28,7 +28,9 @@ bool PublishDialog::Open(const StartPageTexts& texts, CWnd& owner)
         Centre(owner);
     }
     ShowWindow(SW_SHOW);
-    GetDlgItem(IDC_PUBLISH_TITLE)->SetFocus();
+    CWnd* const first = GetDlgItem(IDC_PUBLISH_TITLE);
+    first->SetFocus();
+    first->SendMessage(EM_SETSEL, 0, -1);
     return true;
 }
 

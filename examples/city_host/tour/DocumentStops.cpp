@@ -114,7 +114,7 @@ std::vector<TourStop> DocumentStops()
         {"title-dialog", "A double click on the title opens its dialog over the scene.", OpenTitleDialog, nullptr, false, true},
         {"title-dialog-changed", "Another text, another font and a larger height have been put in.", ChangeTitle, nullptr, false,
          true},
-        {"title-changed", "The Enter key confirmed it, and the title shows in the scene.", Confirm, BringTitleBack},
+        {"title-changed", "The Enter key confirmed it, and the title shows in the scene.", Confirm, nullptr},
         {"publish-dialog", "The publish tool asks for the three lines of the start page.", AskForTexts, nullptr, false, true},
         {"published", "It was confirmed: the start page is printed, and the folder is written.", Publish, nullptr},
         {"start-page", "The printed start page, as it lies in the folder.", nullptr, nullptr, false, false, StartPage},
