@@ -23,8 +23,8 @@
 namespace
 {
 const char* const TooltipWindow = "tavguitooltipwindow";
-constexpr int ItemGap = 8;  // pixels between an item and its tooltip
-constexpr int ViewGap = 4;  // pixels between a tooltip and the view's edge
+constexpr int ItemGap = 8; // pixels between an item and its tooltip
+constexpr int ViewGap = 4; // pixels between a tooltip and the view's edge
 
 CEGUI::Window* RootWindow()
 {
@@ -48,6 +48,8 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
     }
     try
     {
+        // Left over when somebody else has destroyed the window that showed it.
+        FileImagesets::Destroy(TooltipPictureFile);
         const CEGUI::Image& image = FileImagesets::Create(TooltipPictureFile);
         CEGUI::Window& window = *WindowNames::Create("TavLook/StaticImage", TooltipWindow);
         const CSize size = TooltipSize(text);

@@ -62,6 +62,18 @@ TEST_F(PanelPictureTest, the_caption_is_drawn_in_white_at_its_place)
     EXPECT_EQ(BrightPixels(panel, {80, 2, 257, 34}), 0) << "right of it";
 }
 
+TEST_F(PanelPictureTest, the_header_is_the_slice_with_the_caption_in_both_languages)
+{
+    Open({});
+    EXPECT_TRUE(SamePixels(ReadPictureFile(PanelFile()), 0, DrawnHeader(L"显示属性"), 0, 35));
+    Frame().OpenPropertyDlg(nullptr, false);
+    const LanguageSpoken language("en");
+    Rebuild();
+    Frame().OpenPropertyDlg(nullptr, true);
+    EXPECT_TRUE(SamePixels(ReadPictureFile(PanelFile()), 0, DrawnHeader(L"Display properties"), 0, 35));
+    EXPECT_FALSE(SamePixels(ReadPictureFile(PanelFile()), 0, DrawnHeader(L"Display property"), 0, 35));
+}
+
 TEST_F(PanelPictureTest, the_caption_follows_the_language)
 {
     Open({});

@@ -40,8 +40,7 @@ Pixel Blend(std::uint32_t argb, Pixel below)
     return {mix(16, below.red), mix(8, below.green), mix(0, below.blue)};
 }
 
-FileHeld::FileHeld(const CString& path)
-    : file_(CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
+FileHeld::FileHeld(const CString& path) : file_(CreateFileW(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
 {
     EXPECT_NE(file_, INVALID_HANDLE_VALUE);
 }
@@ -103,10 +102,19 @@ bool PanelTest::IsOld(const CString& path)
     return (ULONGLONG(data.ftLastWriteTime.dwHighDateTime) << 32 | data.ftLastWriteTime.dwLowDateTime) == OldTime;
 }
 
-PictureFile DrawnRow(const CString& name, const CString& value)
+namespace
+{
+struct PlacedText
+{
+    CString text;
+    float x;
+    float y;
+};
+
+/// A slice of the template with texts on it.
+PictureFile DrawnSlice(int sourceTop, int height, const std::vector<PlacedText>& texts)
 {
     constexpr int width = 260;
-    constexpr int height = 23;
     const CString path = SkinDir() + L"new_skin\\DlgPropertyTemple.png";
     const gp::Bitmap source = gp::Make<gp::Bitmap>([&](gp::GpBitmap** b) { return gp::GdipCreateBitmapFromFile(path, b); });
     const gp::Bitmap bitmap = gp::NewBitmap(width, height);
@@ -114,17 +122,16 @@ PictureFile DrawnRow(const CString& name, const CString& value)
     gp::GdipSetTextRenderingHint(graphics.get(), gp::TextRenderingHintClearTypeGridFit);
     gp::GdipSetInterpolationMode(graphics.get(), gp::InterpolationModeHighQualityBicubic);
     gp::GdipSetSmoothingMode(graphics.get(), gp::SmoothingModeAntiAlias);
-    gp::GdipDrawImageRectRectI(graphics.get(), source.get(), 0, 0, width, height, 0, 38, width, height, gp::UnitPixel, nullptr,
-                               nullptr, nullptr);
+    gp::GdipDrawImageRectRectI(graphics.get(), source.get(), 0, 0, width, height, 0, sourceTop, width, height, gp::UnitPixel,
+                               nullptr, nullptr, nullptr);
     const gp::FontFamily family = gp::NewFontFamily(L"Noto Sans CJK SC");
     const gp::Font font = gp::NewFont(family.get(), 12);
     const gp::StringFormat format = gp::NewStringFormat();
     const gp::SolidBrush brush = gp::NewSolidBrush(0xFFFFFFFF);
-    const std::pair<const CString*, float> texts[] = {{&name, 35.0f}, {&value, 140.0f}};
-    for (const auto& [text, x] : texts)
+    for (const PlacedText& placed : texts)
     {
-        const gp::RectF place = {x, 5, 0, 0};
-        gp::GdipDrawString(graphics.get(), *text, -1, font.get(), &place, format.get(), brush.get());
+        const gp::RectF place = {placed.x, placed.y, 0, 0};
+        gp::GdipDrawString(graphics.get(), placed.text, -1, font.get(), &place, format.get(), brush.get());
     }
     PictureFile picture;
     picture.width = width;
@@ -142,6 +149,17 @@ PictureFile DrawnRow(const CString& name, const CString& value)
         }
     }
     return picture;
+}
+} // namespace
+
+PictureFile DrawnRow(const CString& name, const CString& value)
+{
+    return DrawnSlice(38, 23, {{name, 35, 5}, {value, 140, 5}});
+}
+
+PictureFile DrawnHeader(const CString& caption)
+{
+    return DrawnSlice(0, 35, {{caption, 16, 12}});
 }
 
 testing::AssertionResult SamePixels(const PictureFile& seen, int seenTop, const PictureFile& expected, int expectedTop,
@@ -163,8 +181,8 @@ testing::AssertionResult SamePixels(const PictureFile& seen, int seenTop, const 
             {
                 if (std::abs(static_cast<int>(is >> shift & 255) - static_cast<int>(wanted >> shift & 255)) > tolerance)
                 {
-                    return testing::AssertionFailure() << "at " << x << "," << y << " seen 0x" << std::hex << is
-                                                       << ", expected 0x" << wanted;
+                    return testing::AssertionFailure()
+                           << "at " << x << "," << y << " seen 0x" << std::hex << is << ", expected 0x" << wanted;
                 }
             }
         }

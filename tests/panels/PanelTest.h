@@ -74,6 +74,9 @@ private:
 /// One row's picture as it has to be, 260 x 23, drawn by the test itself from the template and with GDI+'s own calls.
 PictureFile DrawnRow(const CString& name, const CString& value);
 
+/// The picture of the panel's header with this caption, 260 x 35, drawn in the same way.
+PictureFile DrawnHeader(const CString& caption);
+
 /// Compares a stretch of two pictures, at most two off by rounding.
 testing::AssertionResult SamePixels(const PictureFile& seen, int seenTop, const PictureFile& expected, int expectedTop,
                                     int height);

@@ -2,8 +2,11 @@
 // The tooltip window: one at a time, at its size and place, above everything else.
 #include "PanelTest.h"
 
+#include <widgets/FileImageset.h>
+
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/System.h>
+#include <CEGUI/WindowManager.h>
 
 #include <algorithm>
 
@@ -29,9 +32,16 @@ TEST_F(TooltipTest, six_pixels_a_byte_and_twelve_more)
         CString text;
         int width;
     } rows[] = {
-        {L"a", 18},        {L"abcdefghij", 72},      {L"漫游", 36},     {L"高度 45 m", 66},
-        {L" ", 18},        {L"first\nsecond", 84},  {Letters(L"a", 100), 612}, {Letters(L"a", 150), 912},
-        {Letters(L"游", 150), 1812}, {Letters(L"a", 5000), 30012},
+        {L"a", 18},
+        {L"abcdefghij", 72},
+        {L"漫游", 36},
+        {L"高度 45 m", 66},
+        {L" ", 18},
+        {L"first\nsecond", 84},
+        {Letters(L"a", 100), 612},
+        {Letters(L"a", 150), 912},
+        {Letters(L"游", 150), 1812},
+        {Letters(L"a", 5000), 30012},
     };
     for (const auto& row : rows)
     {
@@ -115,6 +125,20 @@ TEST_F(TooltipTest, taken_away_with_its_picture)
     Frame().DestroyTooltipWindow();
     Frame().CreateTooltipWindow(100, 300, L"text");
     EXPECT_EQ(CountOf(Tooltip), 1) << "its imageset was free again";
+}
+
+TEST_F(TooltipTest, without_its_window_the_picture_is_left_alone_and_the_next_tooltip_shows_all_the_same)
+{
+    Frame().CreateTooltipWindow(100, 300, L"text");
+    CEGUI::WindowManager::getSingleton().destroyWindow(GuiHost::Find(Tooltip));
+    Host().Frames(1);
+    MakeContextCurrent();
+    Frame().DestroyTooltipWindow();
+    EXPECT_TRUE(FileImagesets::IsPresent(L"tavtooltipimgfile.bmp"));
+    Frame().CreateTooltipWindow(200, 300, L"other text");
+    EXPECT_EQ(CountOf(Tooltip), 1);
+    EXPECT_EQ(Place(Tooltip), "200,300 - 272,324");
+    EXPECT_FALSE(Seen(210, 302) == Background());
 }
 
 TEST_F(TooltipTest, none_without_a_root_sheet)
