@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Checks that every test that a list names is there and was run, and that every case of the list names one.
+# Checks that every test that a list names is there and was run, that none failed, and that every case of the list names one.
 #   check_edge_cases.sh LIST.md RESULTS.xml...   the results that GoogleTest wrote
 set -euo pipefail
 export LC_ALL=C
@@ -16,6 +16,9 @@ complain()
 for results in "$@"; do
     [ -s "$results" ] || { echo "no results, its suite has not come to its end: $results"; exit 1; }
 done
+while IFS= read -r results; do
+    complain "tests failed: $results"
+done < <(grep -lE '<testsuites [^>]*(failures|errors)="[1-9]' "$@" || true)
 # SUITE.TEST and how it went, a line each.
 tests=$(sed -nE 's/^ *<testcase name="([^"]*)".* status="([^"]*)" result="([^"]*)".* classname="([^"]*)".*/\4.\1 \2 \3/p' "$@")
 ran=$(awk '$2 == "run" && $3 == "completed" { print $1 }' <<<"$tests" | sort -u)

@@ -18,6 +18,10 @@ result()
 } >bars.xml
 printf '    <testcase name="fails" file="a" line="1" status="run" result="completed" time="0" classname="Other">\n' >other.xml
 : >empty.xml
+{
+    printf '<testsuites tests="3" failures="1" disabled="0" errors="0" time="1" name="AllTests">\n'
+    result Bars fails run completed
+} >failed.xml
 
 # expect EXIT WORDS LIST RESULTS...
 expect()
@@ -40,4 +44,5 @@ expect 1 'no test is named: - bare' '- bare' bars.xml
 expect 1 'no cases' 'nothing' bars.xml
 expect 1 'no results' '- one `Bars.first`' bars.xml missing.xml
 expect 1 'no results' '- one `Bars.first`' bars.xml empty.xml
+expect 1 'tests failed: failed.xml' '- one `Bars.first`' bars.xml failed.xml
 echo "the check takes and refuses what it should"
