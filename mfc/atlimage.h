@@ -88,9 +88,9 @@ public:
     // identifier of each entry's format is added to formats, GUID_NULL for the entry of all files (which is there when a
     // description is given for it). exclude is made of ExcludeFlags. They start GDI+ and do not shut it down.
     static HRESULT GetImporterFilterString(CSimpleString& filter, CSimpleArray<GUID>& formats, LPCWSTR allFiles = nullptr,
-        DWORD exclude = excludeDefaultLoad, wchar_t separator = L'|');
+                                           DWORD exclude = excludeDefaultLoad, wchar_t separator = L'|');
     static HRESULT GetExporterFilterString(CSimpleString& filter, CSimpleArray<GUID>& formats, LPCWSTR allFiles = nullptr,
-        DWORD exclude = excludeDefaultSave, wchar_t separator = L'|');
+                                           DWORD exclude = excludeDefaultSave, wchar_t separator = L'|');
 
     // Shuts GDI+ down now; the next use starts it again.
     static void ReleaseGDIPlus() noexcept;

@@ -45,10 +45,10 @@ DWORD ExclusionOf(const GUID& format)
         const GUID& format;
         DWORD flag;
     };
-    const Row rows[] = {{ImageFormats::Gif, CImage::excludeGIF}, {ImageFormats::Bmp, CImage::excludeBMP},
-        {ImageFormats::Emf, CImage::excludeEMF}, {ImageFormats::Wmf, CImage::excludeWMF},
-        {ImageFormats::Jpeg, CImage::excludeJPEG}, {ImageFormats::Png, CImage::excludePNG},
-        {ImageFormats::Tiff, CImage::excludeTIFF}, {ImageFormats::Icon, CImage::excludeIcon}};
+    const Row rows[] = {{ImageFormats::Gif, CImage::excludeGIF},   {ImageFormats::Bmp, CImage::excludeBMP},
+                        {ImageFormats::Emf, CImage::excludeEMF},   {ImageFormats::Wmf, CImage::excludeWMF},
+                        {ImageFormats::Jpeg, CImage::excludeJPEG}, {ImageFormats::Png, CImage::excludePNG},
+                        {ImageFormats::Tiff, CImage::excludeTIFF}, {ImageFormats::Icon, CImage::excludeIcon}};
     for (const Row& row : rows)
     {
         if (row.format == format)
@@ -60,7 +60,7 @@ DWORD ExclusionOf(const GUID& format)
 }
 
 void FillFilter(const CodecList& codecs, CSimpleString& filter, CSimpleArray<GUID>& formats, LPCWSTR allFiles, DWORD exclude,
-    wchar_t separator)
+                wchar_t separator)
 {
     CString entries;
     CString allPatterns;
@@ -147,7 +147,7 @@ const ImageCodecInfo* CodecList::ForFileName(LPCWSTR fileName) const
 }
 
 HRESULT CImage::GetImporterFilterString(CSimpleString& filter, CSimpleArray<GUID>& formats, LPCWSTR allFiles, DWORD exclude,
-    wchar_t separator)
+                                        wchar_t separator)
 {
     if (!StartGdiplus())
     {
@@ -158,7 +158,7 @@ HRESULT CImage::GetImporterFilterString(CSimpleString& filter, CSimpleArray<GUID
 }
 
 HRESULT CImage::GetExporterFilterString(CSimpleString& filter, CSimpleArray<GUID>& formats, LPCWSTR allFiles, DWORD exclude,
-    wchar_t separator)
+                                        wchar_t separator)
 {
     if (!StartGdiplus())
     {

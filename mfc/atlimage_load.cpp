@@ -58,7 +58,7 @@ Gdiplus::PixelFormat SectionFormat(Gdiplus::PixelFormat source, bool alpha)
 IStream* StreamOfFile(LPCWSTR fileName)
 {
     const HANDLE file = CreateFileW(fileName, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
     {
         return nullptr;
@@ -125,8 +125,8 @@ HRESULT CImage::TakeBitmap(Gdiplus::GpBitmap* source)
     const bool alpha = indexed ? HasTransparentEntry(palette) : Gdiplus::IsAlphaPixelFormat(sourceFormat) != FALSE;
     const Gdiplus::PixelFormat format = SectionFormat(sourceFormat, alpha);
     CImage made;
-    if (!made.Create(static_cast<int>(width), static_cast<int>(height),
-            static_cast<int>(Gdiplus::GetPixelFormatSize(format)), alpha ? createAlphaChannel : 0))
+    if (!made.Create(static_cast<int>(width), static_cast<int>(height), static_cast<int>(Gdiplus::GetPixelFormatSize(format)),
+                     alpha ? createAlphaChannel : 0))
     {
         return E_FAIL;
     }

@@ -41,8 +41,8 @@ HRESULT SaveAlphaBmp(const CImage& image, LPCWSTR fileName)
         return WriteFile(file, bytes, size, &written, nullptr) && written == size;
     };
     bool complete = write(&header, sizeof(header)) && write(&info, sizeof(info));
-    const BYTE* row = static_cast<const BYTE*>(image.GetBits()) +
-                      static_cast<std::ptrdiff_t>(image.GetHeight() - 1) * image.GetPitch();
+    const BYTE* row =
+        static_cast<const BYTE*>(image.GetBits()) + static_cast<std::ptrdiff_t>(image.GetHeight() - 1) * image.GetPitch();
     for (DWORD index = 0; complete && index < height; ++index, row -= image.GetPitch())
     {
         complete = write(row, rowSize);
@@ -96,7 +96,7 @@ GdiplusImage ViewOf(const CImage& image, bool alpha)
         return GdiplusImage(view);
     }
     GdipCreateBitmapFromScan0(image.GetWidth(), image.GetHeight(), image.GetPitch(), FormatOfDepth(image.GetBPP(), alpha),
-        static_cast<BYTE*>(const_cast<void*>(image.GetBits())), &view);
+                              static_cast<BYTE*>(const_cast<void*>(image.GetBits())), &view);
     if (view && image.GetBPP() <= 8)
     {
         SetPalette(view, image);

@@ -138,8 +138,7 @@ wchar_t* CStringW::GetBuffer(int minimumLength)
 
 void CStringW::ReleaseBuffer(int length)
 {
-    const auto end = length < 0 ? std::find(text_.begin(), text_.end(), L'\0')
-                                : text_.begin() + std::min(length, GetLength());
+    const auto end = length < 0 ? std::find(text_.begin(), text_.end(), L'\0') : text_.begin() + std::min(length, GetLength());
     text_.erase(end, text_.end());
     if (!text_.empty())
     {

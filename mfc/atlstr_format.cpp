@@ -32,7 +32,7 @@ CStringW SignedNumber(const Conversion& conversion, Arguments& arguments)
 CStringW UnsignedNumber(const Conversion& conversion, Arguments& arguments)
 {
     const unsigned long long value = conversion.size == ArgumentSize::Wide64 ? va_arg(arguments.list, unsigned long long)
-                                                                     : va_arg(arguments.list, unsigned int);
+                                                                             : va_arg(arguments.list, unsigned int);
     const std::string kind = std::string("ll") + static_cast<char>(conversion.kind);
     return Number(conversion, kind.c_str(), conversion.size == ArgumentSize::Short ? static_cast<unsigned short>(value) : value);
 }

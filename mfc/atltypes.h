@@ -30,10 +30,7 @@ public:
     }
     CPoint(POINT point) noexcept : CPoint(point.x, point.y) {}
     // The two words of a mouse message, which are signed: a point left of or above the window is negative.
-    explicit CPoint(LPARAM words) noexcept
-        : CPoint(static_cast<short>(LOWORD(words)), static_cast<short>(HIWORD(words)))
-    {
-    }
+    explicit CPoint(LPARAM words) noexcept : CPoint(static_cast<short>(LOWORD(words)), static_cast<short>(HIWORD(words))) {}
     void SetPoint(int left, int top) noexcept { *this = CPoint(left, top); }
     void Offset(int dx, int dy) noexcept { SetPoint(x + dx, y + dy); }
     CPoint operator+(SIZE size) const noexcept { return {x + size.cx, y + size.cy}; }
@@ -71,10 +68,7 @@ public:
     CPoint CenterPoint() const noexcept { return {(left + right) / 2, (top + bottom) / 2}; }
     BOOL IsRectEmpty() const noexcept { return left >= right || top >= bottom; }
     BOOL IsRectNull() const noexcept { return left == 0 && top == 0 && right == 0 && bottom == 0; }
-    BOOL PtInRect(POINT point) const noexcept
-    {
-        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
+    BOOL PtInRect(POINT point) const noexcept { return point.x >= left && point.x < right && point.y >= top && point.y < bottom; }
     void SetRect(int l, int t, int r, int b) noexcept { *this = CRect(l, t, r, b); }
     void SetRectEmpty() noexcept { *this = CRect(); }
     void OffsetRect(int dx, int dy) noexcept { SetRect(left + dx, top + dy, right + dx, bottom + dy); }
@@ -85,7 +79,7 @@ public:
     void NormalizeRect() noexcept
     {
         SetRect(left < right ? left : right, top < bottom ? top : bottom, left < right ? right : left,
-            top < bottom ? bottom : top);
+                top < bottom ? bottom : top);
     }
     BOOL operator==(const RECT& rect) const noexcept
     {

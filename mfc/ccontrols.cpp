@@ -71,7 +71,7 @@ void CComboBox::GetLBText(int index, CString& text) const
         text.Empty();
         return;
     }
-    const LRESULT copied = SendMessage(CB_GETLBTEXT, static_cast<WPARAM>(index),
-                                       reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length))));
+    const LRESULT copied =
+        SendMessage(CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.GetBuffer(static_cast<int>(length))));
     text.ReleaseBuffer(copied == CB_ERR ? 0 : static_cast<int>(copied));
 }

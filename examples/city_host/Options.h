@@ -11,14 +11,15 @@ namespace host
 /// What the command line asks for.
 struct Options
 {
-    CString tourFolder;                  ///< where the tour's pictures go; empty: a live window
-    CString tourPart;                    ///< the part of the tour that is made; empty: all of it
-    CString publicationFolder;           ///< the publication that is shown; empty: the application itself
-    CSize size = CSize(1280, 800);       ///< of the window, in pixels
+    CString tourFolder;            ///< where the tour's pictures go; empty: a live window
+    CString tourPart;              ///< the part of the tour that is made; empty: all of it
+    CString publicationFolder;     ///< the publication that is shown; empty: the application itself
+    CSize size = CSize(1280, 800); ///< of the window, in pixels
     GUIUserType user = GUI_USER_FULL;
-    CString language;                    ///< "zh-CN" or "en"; empty: what the parameters say
-    bool slideOut = false;               ///< bars slide out instead of vanishing
-    int samples = 0;                     ///< of multisampling; 0: none
+    CString language;      ///< "zh-CN" or "en"; empty: what the parameters say
+    CString skinFolder;                  ///< of the skin, with a backslash at the end; empty: what the parameters say
+    bool slideOut = false; ///< bars slide out instead of vanishing
+    int samples = 0;       ///< of multisampling; 0: none
 };
 
 /// @param error set to one line when the result is false

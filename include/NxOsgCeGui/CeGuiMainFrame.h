@@ -58,16 +58,16 @@ public:
     /// The setters of the scene title only store: `ChangeTitleText` also redraws.
     virtual void SetSceneTitle(const CString& title);
     virtual CString GetSceneTitle();
-    virtual void SetSceneTitleColor(COLORREF color);  ///< 0x00BBGGRR
+    virtual void SetSceneTitleColor(COLORREF color); ///< 0x00BBGGRR
     virtual COLORREF GetSceneTitleColor() const;
-    virtual void SetSceneTitleFontStyle(const CString& face);  ///< font family name
+    virtual void SetSceneTitleFontStyle(const CString& face); ///< font family name
     virtual CString GetSceneTitleFontStyle() const;
-    virtual void SetSceneTitleFontHeight(const float& height);  ///< pixels
+    virtual void SetSceneTitleFontHeight(const float& height); ///< pixels
     virtual float GetSceneTitleFontHeight() const;
 
     virtual void SetStartPageTitle(const CString& title);
     virtual CString GetStartPageTitle() const;
-    virtual void SetStartPageTitleColor(COLORREF color);  ///< 0x00BBGGRR
+    virtual void SetStartPageTitleColor(COLORREF color); ///< 0x00BBGGRR
     virtual COLORREF GetStartPageTitleColor() const;
 
     /// Does nothing and returns true.
@@ -262,8 +262,8 @@ private:
     bool displaySystemMouse_ = false;
     bool initialised_ = false;
     GUIUserType userType_ = GUI_USER_FULL;
-    static constexpr COLORREF DefaultTitleColor = 0xE1C8C5;  // red 197, green 200, blue 225
-    static constexpr float DefaultTitleHeight = 16.0f;       // pixels
+    static constexpr COLORREF DefaultTitleColor = 0xE1C8C5; // red 197, green 200, blue 225
+    static constexpr float DefaultTitleHeight = 16.0f;      // pixels
     CString sceneTitle_;
     COLORREF sceneTitleColor_ = DefaultTitleColor;
     float sceneTitleFontHeight_ = DefaultTitleHeight;

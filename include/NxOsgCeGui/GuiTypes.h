@@ -24,14 +24,14 @@ constexpr UINT GUI_HOST_MESSAGE = WM_USER + 500;
 /// Command codes of `GUI_HOST_MESSAGE`.
 enum GuiHostCommand : UINT
 {
-    GUI_CMD_PUBLISH = 1,              ///< publish tool
-    GUI_CMD_ROAM = 2,                 ///< roam tool
-    GUI_CMD_ANTIALIASING = 10,        ///< anti-aliasing
-    GUI_CMD_DISPLAY_PROPERTIES = 11,  ///< display-properties tool, after the property panel was toggled
-    GUI_CMD_MUSIC = 12,               ///< background music
-    GUI_CMD_ENVIRONMENT = 13,         ///< effect-environment tool
-    GUI_CMD_CLOSE = 15,               ///< close button; every bar of the frame is destroyed already
-    GUI_CMD_MINIMISE = 16,            ///< minimise button; posted first to the application's main window, then to the viewer's
+    GUI_CMD_PUBLISH = 1,             ///< publish tool
+    GUI_CMD_ROAM = 2,                ///< roam tool
+    GUI_CMD_ANTIALIASING = 10,       ///< anti-aliasing
+    GUI_CMD_DISPLAY_PROPERTIES = 11, ///< display-properties tool, after the property panel was toggled
+    GUI_CMD_MUSIC = 12,              ///< background music
+    GUI_CMD_ENVIRONMENT = 13,        ///< effect-environment tool
+    GUI_CMD_CLOSE = 15,              ///< close button; every bar of the frame is destroyed already
+    GUI_CMD_MINIMISE = 16,           ///< minimise button; posted first to the application's main window, then to the viewer's
     /// The current control button changed, or an entry of the left list was chosen. lParam is the address of the
     /// `BTN_UNIT`, or 0. It points into the library's own list and is valid until that list is next changed, which can be
     /// before the message is handled when the host changes the list in between: copy the record when handling the message.
@@ -42,6 +42,6 @@ enum GuiHostCommand : UINT
     GUI_CMD_KEY_DOWN = 27,
     GUI_CMD_KEY_LEFT = 28,
     GUI_CMD_KEY_RIGHT = 29,
-    GUI_CMD_EDIT_TITLE = 30,          ///< scene-title edit requested (user type 0 only)
-    GUI_CMD_DATA_MANAGEMENT = 31      ///< data-management tool
+    GUI_CMD_EDIT_TITLE = 30,     ///< scene-title edit requested (user type 0 only)
+    GUI_CMD_DATA_MANAGEMENT = 31 ///< data-management tool
 };

@@ -14,20 +14,20 @@ struct NXOSGCEGUI_API STAPAGE
     STAPAGE& operator=(const STAPAGE&);
     ~STAPAGE();
 
-    CString title;           ///< first line: the publication's title
-    CString projectName;     ///< second line
-    CString unitName;        ///< third line: the organisation
-    COLORREF titleColor;     ///< black
-    COLORREF projectColor;   ///< white
-    COLORREF unitColor;      ///< white
-    CString titleFont;       ///< font face, as of the other two lines
+    CString title;         ///< first line: the publication's title
+    CString projectName;   ///< second line
+    CString unitName;      ///< third line: the organisation
+    COLORREF titleColor;   ///< black
+    COLORREF projectColor; ///< white
+    COLORREF unitColor;    ///< white
+    CString titleFont;     ///< font face, as of the other two lines
     CString projectFont;
     CString unitFont;
-    int titleSize;           ///< 13
-    int projectSize;         ///< 30
-    int unitSize;            ///< 18
-    bool firstFlag;          ///< false; the three flags are the host's, kept and copied only
-    bool secondFlag;         ///< true
-    bool thirdFlag;          ///< false
-    CString picture;         ///< full path of the background picture, empty by default
+    int titleSize;   ///< 13
+    int projectSize; ///< 30
+    int unitSize;    ///< 18
+    bool firstFlag;  ///< false; the three flags are the host's, kept and copied only
+    bool secondFlag; ///< true
+    bool thirdFlag;  ///< false
+    CString picture; ///< full path of the background picture, empty by default
 };

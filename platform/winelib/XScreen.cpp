@@ -26,9 +26,9 @@ void PutOnXWindow(unsigned long xWindow, int left, int top, int width, int heigh
         std::memcpy(rows.data() + y * stride, pixels + (height - 1 - y) * stride, stride);
     }
     const auto depth = static_cast<unsigned int>(DefaultDepth(display, screen));
-    XImage* image = XCreateImage(display, DefaultVisual(display, screen), depth,
-                                 ZPixmap, 0, rows.data(), static_cast<unsigned int>(width), static_cast<unsigned int>(height), 32,
-                                 static_cast<int>(stride));
+    XImage* image =
+        XCreateImage(display, DefaultVisual(display, screen), depth, ZPixmap, 0, rows.data(), static_cast<unsigned int>(width),
+                     static_cast<unsigned int>(height), 32, static_cast<int>(stride));
     if (!image)
     {
         return;

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr UINT FirstPrintable = 0x20;  // below are the keys that edit: backspace, copy, cut, paste, undo
+constexpr UINT FirstPrintable = 0x20; // below are the keys that edit: backspace, copy, cut, paste, undo
 
 // Digits and at most one point, as it may stand while a number is being typed.
 bool IsPartOfNumber(const CString& text)

@@ -6,7 +6,7 @@ TextFile::Result TextFile::Read(const CString& path, std::string& bytes)
     bytes.clear();
     // A file that somebody else is just writing can still be read.
     const HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
     {
         const DWORD error = GetLastError();

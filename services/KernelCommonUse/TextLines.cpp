@@ -49,19 +49,19 @@ std::vector<TextLine> SplitBytes(const std::string& bytes, std::size_t start, UI
 {
     std::vector<TextLine> lines;
     ForEachLine(bytes, start,
-        [&](std::size_t first, std::size_t end)
-        {
-            TextLine line;
-            if (bytes.find('\0', first) < end)
-            {
-                line.fault = NullFault;
-            }
-            else if (!Decode(codePage, bytes.data() + first, static_cast<int>(end - first), line.text))
-            {
-                line.fault = codePage == CP_UTF8 ? "not valid UTF-8" : "not valid in the ANSI code page";
-            }
-            lines.push_back(line);
-        });
+                [&](std::size_t first, std::size_t end)
+                {
+                    TextLine line;
+                    if (bytes.find('\0', first) < end)
+                    {
+                        line.fault = NullFault;
+                    }
+                    else if (!Decode(codePage, bytes.data() + first, static_cast<int>(end - first), line.text))
+                    {
+                        line.fault = codePage == CP_UTF8 ? "not valid UTF-8" : "not valid in the ANSI code page";
+                    }
+                    lines.push_back(line);
+                });
     return lines;
 }
 

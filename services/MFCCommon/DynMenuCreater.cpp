@@ -75,8 +75,8 @@ public:
             }
             else if (name == "item" && depth > 0)
             {
-                const UINT state = (Flag(node, "checked", false) ? MF_CHECKED : 0) |
-                                   (Flag(node, "enabled", true) ? MF_ENABLED : MF_GRAYED);
+                const UINT state =
+                    (Flag(node, "checked", false) ? MF_CHECKED : 0) | (Flag(node, "enabled", true) ? MF_ENABLED : MF_GRAYED);
                 AppendMenuW(menu, MF_STRING | state, CommandOf(node), TextOf(node));
             }
             else if (name == "separator" && depth > 0)

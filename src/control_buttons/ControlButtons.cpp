@@ -27,8 +27,8 @@ BTN_UNIT* CeGuiMainFrame::GetBtnProperty(const CString& name, int kind)
 
 BTN_UNIT* CeGuiMainFrame::GetBtnProperty(const CString& name, int kind, int& index)
 {
-    const auto found = std::find_if(controlButtons_.begin(), controlButtons_.end(), [&](const BTN_UNIT& record)
-                                    { return record.kind == kind && record.name == name; });
+    const auto found = std::find_if(controlButtons_.begin(), controlButtons_.end(),
+                                    [&](const BTN_UNIT& record) { return record.kind == kind && record.name == name; });
     if (found == controlButtons_.end())
     {
         return nullptr;
@@ -39,8 +39,8 @@ BTN_UNIT* CeGuiMainFrame::GetBtnProperty(const CString& name, int kind, int& ind
 
 bool CeGuiMainFrame::SetEditBtnProperty(const CString& name, const BTN_UNIT& unit)
 {
-    const auto found = std::find_if(controlButtons_.begin(), controlButtons_.end(),
-                                    [&](const BTN_UNIT& record) { return record.name == name; });
+    const auto found =
+        std::find_if(controlButtons_.begin(), controlButtons_.end(), [&](const BTN_UNIT& record) { return record.name == name; });
     if (found != controlButtons_.end())
     {
         *found = unit;

@@ -61,8 +61,8 @@ bool OnListTool(const CEGUI::EventArgs& args)
 
 struct Tool
 {
-    const wchar_t* name;  ///< stem of its picture files
-    const char* tooltip;  ///< translation key
+    const wchar_t* name; ///< stem of its picture files
+    const char* tooltip; ///< translation key
     CeGuiToolBar::EventHandler clicked;
     bool fullUserOnly;
 };

@@ -61,8 +61,8 @@ void CeGuiMainFrame::CreateLeftList()
         const CString stem = MakeThumbnail(record.target, record.lastText, static_cast<UINT>(i), record.kind);
         list.AddImageButton(EntryWindowName(record), NormalFile(stem), L"", PushedFile(stem), L"");
     }
-    list.CreateScrollThumb(ThumbMargin, L"scrollbar", L"new_skin/verticalscrollbar.png",
-                           L"new_skin/verticalscrollbar_hover.png", L"");
+    list.CreateScrollThumb(ThumbMargin, L"scrollbar", L"new_skin/verticalscrollbar.png", L"new_skin/verticalscrollbar_hover.png",
+                           L"");
     EnterBar(list);
 }
 

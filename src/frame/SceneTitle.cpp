@@ -83,9 +83,9 @@ void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CStri
         return;
     }
     const CSize size = SceneTitleSize();
-    const CString file = CreateTextImageFile(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy), FrameNames::TitleText,
-                                             sceneTitle_, static_cast<UINT>(sceneTitleFontHeight_), sceneTitleFontStyle_,
-                                             sceneTitleColor_);
+    const CString file =
+        CreateTextImageFile(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy), FrameNames::TitleText, sceneTitle_,
+                            static_cast<UINT>(sceneTitleFontHeight_), sceneTitleFontStyle_, sceneTitleColor_);
     if (!file.IsEmpty())
     {
         const LONG top = (bar->rect.bottom - bar->rect.top - size.cy) / 2;

@@ -25,8 +25,8 @@ constexpr RECT LogoRect = {15, 10, 45, 40};
 struct WindowButton
 {
     const wchar_t* window;
-    const wchar_t* image;  ///< stem of the three picture files
-    const char* tooltip;   ///< translation key
+    const wchar_t* image; ///< stem of the three picture files
+    const char* tooltip;  ///< translation key
     CeGuiToolBar::EventHandler clicked;
 };
 
@@ -59,8 +59,7 @@ void CeGuiMainFrame::CreateTitleBar()
     {
         const CString image = button.image;
         const CString tooltip = CMultiLanguageMgr::GetInstance()->translation(button.tooltip, "", "Common");
-        const int index =
-            bar.AddImageButton(button.window, image + L".png", image + L"H.png", image + L"P.png", tooltip);
+        const int index = bar.AddImageButton(button.window, image + L".png", image + L"H.png", image + L"P.png", tooltip);
         bar.SubscribeItemEvent(index, CEGUI::PushButton::EventClicked, CEGUI::SubscriberSlot(button.clicked));
     }
     bar.window->setAlwaysOnTop(true);

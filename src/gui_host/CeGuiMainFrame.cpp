@@ -18,8 +18,7 @@ CeGuiMainFrame* CeGuiMainFrame::GetInstance()
     return &instance;
 }
 
-CeGuiMainFrame::CeGuiMainFrame()
-    : preferredFontFace_(WantedTitleFont)
+CeGuiMainFrame::CeGuiMainFrame() : preferredFontFace_(WantedTitleFont)
 {
     InputState::Get();
     if (!IsFontInstalled(preferredFontFace_))

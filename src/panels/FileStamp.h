@@ -10,7 +10,7 @@ struct FileStamp
 {
     CString path;
     std::uint64_t size = 0;
-    std::uint64_t written = 0;  ///< FILETIME, 100 ns; 0 when there is no such file
+    std::uint64_t written = 0; ///< FILETIME, 100 ns; 0 when there is no such file
 };
 
 FileStamp StampOf(const CString& path);

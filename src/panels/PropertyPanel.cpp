@@ -143,9 +143,9 @@ void CeGuiMainFrame::RefreshPanelFrame(CeGuiToolBar* panel)
 {
     const LONG width = static_cast<LONG>(windowWidth_);
     const LONG height = static_cast<LONG>(windowHeight_);
-    const RECT rect = fullScene_ ? RECT{width - PanelWidth, 0, width, height}
-                                 : RECT{width - borderWidth_ - PanelWidth, titleBarHeight_, width - borderWidth_,
-                                        height - borderWidth_};
+    const RECT rect = fullScene_
+                          ? RECT{width - PanelWidth, 0, width, height}
+                          : RECT{width - borderWidth_ - PanelWidth, titleBarHeight_, width - borderWidth_, height - borderWidth_};
     const int panelHeight = rect.bottom - rect.top;
     const RECT picturePlace = {0, 0, PanelWidth, panelHeight};
     if (!panel)

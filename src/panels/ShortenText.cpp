@@ -22,9 +22,7 @@ std::vector<int> BeginningsOf(const CString& text)
 }
 } // namespace
 
-TextShortener::TextShortener(const TextMeasurer& measurer) : measurer_(measurer), ellipsisWidth_(measurer.Box(Ellipsis).Width)
-{
-}
+TextShortener::TextShortener(const TextMeasurer& measurer) : measurer_(measurer), ellipsisWidth_(measurer.Box(Ellipsis).Width) {}
 
 CString TextShortener::Fit(const CString& text, float maxWidth) const
 {

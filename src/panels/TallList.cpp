@@ -90,9 +90,9 @@ private:
 
     CEGUI::Window* item_;
     const CeGuiMainFrame::PropertyRows& rows_;
-    int height_;   // of the whole list, pixels
-    int place_;    // height of what is in sight, pixels
-    int stretch_;  // height of a stretch, pixels
+    int height_;  // of the whole list, pixels
+    int place_;   // height of what is in sight, pixels
+    int stretch_; // height of a stretch, pixels
     std::array<int, SlotCount> shown_;
     std::array<CEGUI::Window*, SlotCount> windows_;
 };

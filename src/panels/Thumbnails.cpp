@@ -71,8 +71,8 @@ gp::Bitmap NewCanvas(const CString& borderFile)
         gp::Bitmap canvas = gp::Make<gp::Bitmap>(
             [&](gp::GpBitmap** copy)
             {
-                return gp::GdipCloneBitmapAreaI(0, 0, static_cast<INT>(width), static_cast<INT>(height),
-                                                PixelFormat32bppARGB, border.get(), copy);
+                return gp::GdipCloneBitmapAreaI(0, 0, static_cast<INT>(width), static_cast<INT>(height), PixelFormat32bppARGB,
+                                                border.get(), copy);
             });
         if (canvas)
         {

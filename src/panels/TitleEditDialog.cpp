@@ -16,11 +16,11 @@
 
 namespace
 {
-constexpr int MaxTextLength = 100;       // UTF-16 units
-constexpr double MaxHeight = 100.0;      // pixels
-constexpr float MinHeight = 0.0001f;     // pixels; less is not shown in plain digits
-constexpr float FallbackHeight = 16.0f;  // pixels; shown for a title with less
-constexpr int VisibleFonts = 10;         // entries of the dropped list
+constexpr int MaxTextLength = 100;      // UTF-16 units
+constexpr double MaxHeight = 100.0;     // pixels
+constexpr float MinHeight = 0.0001f;    // pixels; less is not shown in plain digits
+constexpr float FallbackHeight = 16.0f; // pixels; shown for a title with less
+constexpr int VisibleFonts = 10;        // entries of the dropped list
 
 /// The one dialog; it clears this when it goes.
 CDlgGuiTitleEdit* theDialog = nullptr;
@@ -190,8 +190,12 @@ void CDlgGuiTitleEdit::ShowFonts()
 void CDlgGuiTitleEdit::ShowLabels()
 {
     const std::pair<int, const char*> labels[] = {
-        {IDC_LABEL_TEXT, "LKEY10362"},  {IDC_LABEL_FONT, "LKEY10159"}, {IDC_LABEL_HEIGHT, "LKEY10160"},
-        {IDC_LABEL_COLOR, "LKEY10161"}, {IDOK, "LKEY67"},              {IDCANCEL, "LKEY10134"},
+        {IDC_LABEL_TEXT, "LKEY10362"},
+        {IDC_LABEL_FONT, "LKEY10159"},
+        {IDC_LABEL_HEIGHT, "LKEY10160"},
+        {IDC_LABEL_COLOR, "LKEY10161"},
+        {IDOK, "LKEY67"},
+        {IDCANCEL, "LKEY10134"},
     };
     SetWindowText(Translated("LKEY10361"));
     for (const auto& [id, key] : labels)

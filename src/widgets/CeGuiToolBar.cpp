@@ -228,9 +228,9 @@ int CeGuiToolBar::AddStaticImage(const RECT& place, CString itemName, CString im
 int CeGuiToolBar::AddTextImage(const RECT& place, CString itemName, CString text, UINT fontHeight, CString fontName,
                                COLORREF color)
 {
-    const CString file = CreateTextImageFile(static_cast<UINT>(place.right - place.left),
-                                             static_cast<UINT>(place.bottom - place.top), itemName, text, fontHeight, fontName,
-                                             color);
+    const CString file =
+        CreateTextImageFile(static_cast<UINT>(place.right - place.left), static_cast<UINT>(place.bottom - place.top), itemName,
+                            text, fontHeight, fontName, color);
     return file.IsEmpty() ? -1 : AddStaticImage(place, itemName, file);
 }
 

@@ -25,16 +25,16 @@ struct ToolBarItem
     float heightScale = 0;
     float xScale = 0;
     float yScale = 0;
-    CEGUI::Window* window = nullptr;  ///< owned by CEGUI; null once it is destroyed
+    CEGUI::Window* window = nullptr; ///< owned by CEGUI; null once it is destroyed
 };
 
 /// How a bar lays out its buttons and which way it slides out.
 enum BarType : UINT
 {
-    BAR_TITLE = 1,  ///< buttons from right to left; slides up
-    BAR_TOOLS = 2,  ///< buttons from left to right; slides down
-    BAR_LIST = 4,   ///< buttons from top to bottom, scrolled; slides left
-    BAR_PANEL = 6   ///< items at (0, 0), scrolled; does not slide
+    BAR_TITLE = 1, ///< buttons from right to left; slides up
+    BAR_TOOLS = 2, ///< buttons from left to right; slides down
+    BAR_LIST = 4,  ///< buttons from top to bottom, scrolled; slides left
+    BAR_PANEL = 6  ///< items at (0, 0), scrolled; does not slide
 };
 
 /// A bar: one CEGUI window over a rectangle of the view, and the buttons and pictures laid out in it. Every frame, tool bar,
@@ -122,20 +122,20 @@ public:
     UINT marginY = 0;
     UINT spacing = 0;
     bool autoHide = false;
-    bool showArmed = false;  ///< the mouse has been outside `triggerRect` since the bar was hidden
-    RECT triggerRect;        ///< where the mouse makes a hidden bar reappear, view pixels
+    bool showArmed = false; ///< the mouse has been outside `triggerRect` since the bar was hidden
+    RECT triggerRect;       ///< where the mouse makes a hidden bar reappear, view pixels
     CEGUI::Window* thumb = nullptr;
     CEGUI::Vector2f lastMousePos;
     bool dragging = false;
-    float contentExtent = 1.0f;  ///< height of the items' column in bar heights
-    float longestWheelStep = 0;  ///< the most that a notch moves the items, in bar heights; 0 for no limit
+    float contentExtent = 1.0f; ///< height of the items' column in bar heights
+    float longestWheelStep = 0; ///< the most that a notch moves the items, in bar heights; 0 for no limit
     bool slideOnHide = false;
     bool animating = false;
     UINT screenWidth;
     UINT screenHeight;
     double animClock = 0.0;
     CString name;
-    std::vector<std::pair<double, double>> keyframes;  ///< (time, fraction of the way out)
+    std::vector<std::pair<double, double>> keyframes; ///< (time, fraction of the way out)
 
 private:
     void PlaceWindow(const RECT& place, UINT parentWidth, UINT parentHeight);

@@ -47,8 +47,8 @@ Imageset& AddBlank(const CEGUI::String& name)
 {
     Imageset imageset;
     imageset.texture = &Renderer().createTexture(name);
-    imageset.image = static_cast<CEGUI::BasicImage*>(
-        &CEGUI::ImageManager::getSingleton().create("BasicImage", name + "/" + FullImageName));
+    imageset.image =
+        static_cast<CEGUI::BasicImage*>(&CEGUI::ImageManager::getSingleton().create("BasicImage", name + "/" + FullImageName));
     imageset.image->setTexture(imageset.texture);
     MakeBlank(imageset);
     return imagesets[name] = imageset;

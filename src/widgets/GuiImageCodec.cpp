@@ -5,7 +5,6 @@
 #include <CEGUI/Size.h>
 #include <CEGUI/Texture.h>
 
-
 namespace
 {
 constexpr UINT MaxSide = 32768;

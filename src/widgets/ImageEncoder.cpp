@@ -20,9 +20,8 @@ UINT Level(gp::ARGB component)
 
 BYTE PaletteIndex(gp::ARGB color)
 {
-    return static_cast<BYTE>(color >> 24 < 128
-                                 ? Transparent
-                                 : (Level(color >> 16) * Levels + Level(color >> 8)) * Levels + Level(color));
+    return static_cast<BYTE>(color >> 24 < 128 ? Transparent
+                                               : (Level(color >> 16) * Levels + Level(color >> 8)) * Levels + Level(color));
 }
 
 /// The bitmap in 8 bits over a fixed palette: not every GDI+ makes one for a GIF itself, and then it writes a file that

@@ -29,10 +29,10 @@ struct InputState
 /// Flags about the mouse that live as long as the process.
 struct MouseFlags
 {
-    bool buttonEditMode = false;  ///< a control button is being moved
-    bool buttonHeld = false;      ///< a left or right button is down
-    bool leftButton = false;      ///< the last pressed or released button was the left one
-    bool pressConsumed = false;   ///< the next click on a control button must not choose it
+    bool buttonEditMode = false; ///< a control button is being moved
+    bool buttonHeld = false;     ///< a left or right button is down
+    bool leftButton = false;     ///< the last pressed or released button was the left one
+    bool pressConsumed = false;  ///< the next click on a control button must not choose it
 };
 
 extern MouseFlags mouseFlags;

@@ -16,8 +16,8 @@
 namespace
 {
 const char* const ImageButtonType = "TavLook/ImageButton";
-constexpr int ThumbWidth = 6;                // bar pixels
-constexpr float WheelStep = 30.0f;           // bar pixels a notch
+constexpr int ThumbWidth = 6;      // bar pixels
+constexpr float WheelStep = 30.0f; // bar pixels a notch
 
 void MarkInputTaken()
 {

@@ -21,8 +21,7 @@ protected:
         for (const char* entry : {First, Second})
         {
             const CEGUI::String name = entry;
-            GuiHost::Find(entry)->subscribeEvent(CEGUI::Window::EventMouseButtonDown,
-                                                 CEGUI::SubscriberSlot(NameIt{name}));
+            GuiHost::Find(entry)->subscribeEvent(CEGUI::Window::EventMouseButtonDown, CEGUI::SubscriberSlot(NameIt{name}));
         }
         Host().MoveMouse(start_.x, start_.y);
     }

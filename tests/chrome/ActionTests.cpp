@@ -52,8 +52,8 @@ protected:
 private:
     int count_ = 0;
 };
-const char* const frameNames[] = {"TavTitleBackground", "TavLeftBorderBackground", "TavRightBorderBackground",
-                                  "TavBottomBorderBackground", "TavBotCtrlFrame", "TavLeftCtrlFrame"};
+const char* const frameNames[] = {"TavTitleBackground",        "TavLeftBorderBackground", "TavRightBorderBackground",
+                                  "TavBottomBorderBackground", "TavBotCtrlFrame",         "TavLeftCtrlFrame"};
 } // namespace
 
 TEST_F(ChromeActions, close_posts_15_to_the_viewers_window_alone)

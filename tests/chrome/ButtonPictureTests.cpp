@@ -12,7 +12,7 @@ struct Button
 {
     const char* window;
     const wchar_t* stem;
-    int x;  ///< left edge, view pixels
+    int x; ///< left edge, view pixels
 };
 constexpr int Top = 13;
 constexpr int Side = 24;

@@ -23,16 +23,26 @@ protected:
     /// The lines of the log that name a file.
     int Naming(const Lines& lines, const std::string& file)
     {
-        return static_cast<int>(std::count_if(lines.begin(), lines.end(), [&](const std::string& line)
-                                              { return line.find(file) != std::string::npos; }));
+        return static_cast<int>(std::count_if(lines.begin(), lines.end(),
+                                              [&](const std::string& line) { return line.find(file) != std::string::npos; }));
     }
     static bool Shown() { return !(Host().Shoot().At(400, 20) == Background()); }
 };
 const char* const pictures[] = {
-    "new_skin/topBG.png",      "new_skin/close.png",        "new_skin/closeH.png",      "new_skin/closeP.png",
-    "new_skin/minimize.png",   "new_skin/full.png",         "new_skin/fullescP.png",    "new_skin/logo.png",
-    "new_skin/leftborder.png", "new_skin/rightborder.png",  "new_skin/bottomborder.png", "new_skin/bottomBG.png",
-    "roamN.png",               "new_skin/leftBG.png",
+    "new_skin/topBG.png",
+    "new_skin/close.png",
+    "new_skin/closeH.png",
+    "new_skin/closeP.png",
+    "new_skin/minimize.png",
+    "new_skin/full.png",
+    "new_skin/fullescP.png",
+    "new_skin/logo.png",
+    "new_skin/leftborder.png",
+    "new_skin/rightborder.png",
+    "new_skin/bottomborder.png",
+    "new_skin/bottomBG.png",
+    "roamN.png",
+    "new_skin/leftBG.png",
 };
 } // namespace
 

@@ -137,8 +137,8 @@ TEST_F(Chrome, bottom_border_lies_over_the_bottom_bar_on_the_screen)
     ASSERT_TRUE(Window("TavBotCtrlFrame").isVisible());
     Window("TavBotCtrlFrame").moveToFront();
     // The tool bar ends at 598, the border starts at 596: at 597 both are.
-    const CEGUI::Window* hit = CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow()->getTargetChildAtPosition(
-        CEGUI::Vector2f(300, 597));
+    const CEGUI::Window* hit =
+        CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow()->getTargetChildAtPosition(CEGUI::Vector2f(300, 597));
     ASSERT_NE(hit, nullptr);
     EXPECT_EQ(hit->getName(), "TavBottomBorderBackground");
 }

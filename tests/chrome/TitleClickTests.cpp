@@ -65,8 +65,8 @@ TEST_F(TitleClicks, follow_the_table_of_button_and_click_count)
         unsigned int clicks;
         bool edits;
     } rows[] = {
-        {CEGUI::RightButton, 1, true}, {CEGUI::RightButton, 2, false}, {CEGUI::RightButton, 3, false},
-        {CEGUI::LeftButton, 1, false}, {CEGUI::LeftButton, 2, true},   {CEGUI::LeftButton, 3, true},
+        {CEGUI::RightButton, 1, true},   {CEGUI::RightButton, 2, false},  {CEGUI::RightButton, 3, false},
+        {CEGUI::LeftButton, 1, false},   {CEGUI::LeftButton, 2, true},    {CEGUI::LeftButton, 3, true},
         {CEGUI::MiddleButton, 1, false}, {CEGUI::MiddleButton, 2, false},
     };
     for (const auto& row : rows)

@@ -33,7 +33,7 @@ public:
     inline static int count = 0;
 
 private:
-    static constexpr int Head = 2;  ///< offset and type before the first operation
+    static constexpr int Head = 2; ///< offset and type before the first operation
     static constexpr int Slots = 16;
     static constexpr int RefreshSlot = 14;
     static bool Count(CeGuiMainFrame*, GUIBTNTYPE type)

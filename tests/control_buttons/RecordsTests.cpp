@@ -135,8 +135,8 @@ TEST_F(RecordsTest, look_up_by_name_and_kind)
         const wchar_t* name;
         int kind;
         int found;
-    } rows[] = {{L"a", 0, 0},  {L"a", 1, 1},  {L"a", 2, -1}, {L"b", 2, 2}, {L"b", 0, -1},
-                {L"A", 0, -1}, {L"", 1, 4},   {L"", 0, -1},  {L"c", 0, -1}};
+    } rows[] = {{L"a", 0, 0},  {L"a", 1, 1}, {L"a", 2, -1}, {L"b", 2, 2}, {L"b", 0, -1},
+                {L"A", 0, -1}, {L"", 1, 4},  {L"", 0, -1},  {L"c", 0, -1}};
     for (const auto& row : rows)
     {
         int index = 77;
@@ -169,7 +169,7 @@ TEST_F(RecordsTest, the_index_is_clamped_into_the_list_and_the_host_is_not_told)
         std::size_t count;
         int index;
         int current;
-    } rows[] = {{3, -5, 0}, {3, 7, 2}, {3, 0, 0}, {3, 1, 1},   {3, 2, 2},
+    } rows[] = {{3, -5, 0}, {3, 7, 2}, {3, 0, 0},  {3, 1, 1},   {3, 2, 2},
                 {3, 3, 2},  {1, 9, 0}, {0, 0, -1}, {0, -3, -1}, {0, 4, -1}};
     for (const auto& row : rows)
     {
@@ -187,17 +187,21 @@ TEST_F(RecordsTest, steps_forward_and_back)
     {
         const char* what;
         std::size_t count;
-        int from;  ///< -1: none
+        int from; ///< -1: none
         bool forward;
         bool moved;
         int to;
     } rows[] = {
-        {"forward from none", 3, -1, true, true, 0},     {"forward", 3, 0, true, true, 1},
-        {"forward to the last", 3, 1, true, true, 2},    {"forward at the last", 3, 2, true, false, 2},
+        {"forward from none", 3, -1, true, true, 0},
+        {"forward", 3, 0, true, true, 1},
+        {"forward to the last", 3, 1, true, true, 2},
+        {"forward at the last", 3, 2, true, false, 2},
         {"forward without records", 0, -1, true, false, -1},
         {"back from none leads to the first", 3, -1, false, true, 0},
-        {"back", 3, 2, false, true, 1},                  {"back to the first", 3, 1, false, true, 0},
-        {"back at the first", 3, 0, false, false, 0},    {"back without records", 0, -1, false, false, -1},
+        {"back", 3, 2, false, true, 1},
+        {"back to the first", 3, 1, false, true, 0},
+        {"back at the first", 3, 0, false, false, 0},
+        {"back without records", 0, -1, false, false, -1},
         {"back from none with one record", 1, -1, false, true, 0},
     };
     for (const auto& row : rows)

@@ -13,8 +13,8 @@ constexpr std::uint32_t Yellow = 0xFFFFFF00;
 TEST_F(ThumbnailTest, captions_and_kinds)
 {
     const CString picture = Write(L"motley.png", Motley(300, 200));
-    for (const wchar_t* caption : {L"", L"a", L"Harbour 12", L"中央商务区", L"A caption that is wider than the thumbnail", L" ",
-                                   L"two\nlines", L"%d/\\&"})
+    for (const wchar_t* caption :
+         {L"", L"a", L"Harbour 12", L"中央商务区", L"A caption that is wider than the thumbnail", L" ", L"two\nlines", L"%d/\\&"})
     {
         for (const int kind : {0, 1, 2, -1})
         {
@@ -55,8 +55,8 @@ TEST_F(ThumbnailTest, pictures_of_every_format_and_shape)
         int width;
         int height;
     } rows[] = {
-        {L"photo.jpg", L"image/jpeg", 200, 150}, {L"drawing.gif", L"image/gif", 64, 64}, {L"bitmap.bmp", L"image/bmp", 99, 33},
-        {L"scan.tiff", L"image/tiff", 50, 80},   {L"dot.png", L"image/png", 1, 1},       {L"wide.png", L"image/png", 500, 2},
+        {L"photo.jpg", L"image/jpeg", 200, 150}, {L"drawing.gif", L"image/gif", 64, 64},   {L"bitmap.bmp", L"image/bmp", 99, 33},
+        {L"scan.tiff", L"image/tiff", 50, 80},   {L"dot.png", L"image/png", 1, 1},         {L"wide.png", L"image/png", 500, 2},
         {L"tall.png", L"image/png", 2, 500},     {L"带空格 的.png", L"image/png", 30, 30}, {L"noextension", L"image/png", 30, 30},
     };
     for (const auto& row : rows)
@@ -73,8 +73,8 @@ TEST_F(ThumbnailTest, a_picture_of_8000_by_6000_pixels)
     constexpr std::uint32_t Height = 6000;
     constexpr std::uint32_t Size = Width / 8 * Height;
     Bytes bytes = {'B', 'M'};
-    for (const std::uint32_t value : {62 + Size, 0u, 62u, 40u, Width, Height, 0x00010001u, 0u, Size, 0u, 0u, 2u, 0u,
-                                      Yellow & 0xFFFFFF, Red & 0xFFFFFF})
+    for (const std::uint32_t value :
+         {62 + Size, 0u, 62u, 40u, Width, Height, 0x00010001u, 0u, Size, 0u, 0u, 2u, 0u, Yellow & 0xFFFFFF, Red & 0xFFFFFF})
     {
         for (int i = 0; i < 4; ++i)
         {
@@ -118,17 +118,28 @@ TEST_F(ThumbnailTest, everything_lies_at_its_pixels)
         int y;
         std::uint32_t color;
     } rows[] = {
-        {"frame at the upper left", 0, 0, Red},        {"frame left of the picture", 2, 50, Red},
-        {"frame above the picture", 50, 2, Red},       {"frame right of the picture", 123, 50, Red},
-        {"frame below the picture", 50, 93, Red},      {"frame at the lower right", 125, 95, Red},
-        {"picture left", 4, 50, Yellow},               {"picture right", 121, 50, Yellow},
-        {"picture above", 50, 4, Yellow},              {"picture below", 50, 91, Yellow},
-        {"left of the mark", 39, 40, Yellow},          {"mark left", 41, 40, Green},
-        {"mark right", 79, 40, Green},                 {"right of the mark", 81, 40, Yellow},
-        {"above the mark", 60, 23, Yellow},            {"mark above", 60, 25, Green},
-        {"mark below", 60, 63, Green},                 {"below the mark", 60, 65, Yellow},
-        {"plate of an empty caption", 119, 89, Blue},  {"left of the plate", 115, 89, Yellow},
-        {"above the plate", 119, 85, Yellow},          {"plate at its lower right", 121, 91, Blue},
+        {"frame at the upper left", 0, 0, Red},
+        {"frame left of the picture", 2, 50, Red},
+        {"frame above the picture", 50, 2, Red},
+        {"frame right of the picture", 123, 50, Red},
+        {"frame below the picture", 50, 93, Red},
+        {"frame at the lower right", 125, 95, Red},
+        {"picture left", 4, 50, Yellow},
+        {"picture right", 121, 50, Yellow},
+        {"picture above", 50, 4, Yellow},
+        {"picture below", 50, 91, Yellow},
+        {"left of the mark", 39, 40, Yellow},
+        {"mark left", 41, 40, Green},
+        {"mark right", 79, 40, Green},
+        {"right of the mark", 81, 40, Yellow},
+        {"above the mark", 60, 23, Yellow},
+        {"mark above", 60, 25, Green},
+        {"mark below", 60, 63, Green},
+        {"below the mark", 60, 65, Yellow},
+        {"plate of an empty caption", 119, 89, Blue},
+        {"left of the plate", 115, 89, Yellow},
+        {"above the plate", 119, 85, Yellow},
+        {"plate at its lower right", 121, 91, Blue},
     };
     for (const auto& row : rows)
     {

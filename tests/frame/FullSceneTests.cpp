@@ -28,10 +28,9 @@ std::ostream& operator<<(std::ostream& out, const Layout& l)
                << l.tools << " hot " << l.toolsHot;
 }
 
-const Layout Windowed = {"0,0 - 800,50",    "0,0 - 800,50",    "1,50 - 153,598",
-                         "0,50 - 153,508",  "1,508 - 584,598", "0,508 - 584,600"};
-const Layout FullScene = {"0,0 - 800,50",   "0,0 - 800,50",    "0,0 - 152,600",
-                          "0,0 - 152,508",  "0,510 - 583,600", "0,510 - 583,600"};
+const Layout Windowed = {"0,0 - 800,50",   "0,0 - 800,50",    "1,50 - 153,598",
+                         "0,50 - 153,508", "1,508 - 584,598", "0,508 - 584,600"};
+const Layout FullScene = {"0,0 - 800,50", "0,0 - 800,50", "0,0 - 152,600", "0,0 - 152,508", "0,510 - 583,600", "0,510 - 583,600"};
 } // namespace
 
 class FullSceneTest : public FrameTest
@@ -172,12 +171,12 @@ TEST_F(FullSceneTest, survives_a_resize)
     Host().Resize(640, 480);
     EXPECT_TRUE(Frame().IsFullScene());
     EXPECT_EQ(Shown(), Lines{});
-    EXPECT_EQ(Now(), (Layout{"0,0 - 640,50", "0,0 - 640,50", "0,0 - 152,480", "0,0 - 152,388", "0,390 - 583,480",
-                             "0,390 - 583,480"}));
+    EXPECT_EQ(Now(),
+              (Layout{"0,0 - 640,50", "0,0 - 640,50", "0,0 - 152,480", "0,0 - 152,388", "0,390 - 583,480", "0,390 - 583,480"}));
     EXPECT_TRUE(GuiHost::Find("TavFullTilteEscBtn")->isVisible());
     Frame().OnToolBarFullScene(false);
-    EXPECT_EQ(Now(), (Layout{"0,0 - 640,50", "0,0 - 640,50", "1,50 - 153,478", "0,50 - 153,388", "1,388 - 584,478",
-                             "0,388 - 584,480"}));
+    EXPECT_EQ(Now(),
+              (Layout{"0,0 - 640,50", "0,0 - 640,50", "1,50 - 153,478", "0,50 - 153,388", "1,388 - 584,478", "0,388 - 584,480"}));
 }
 
 TEST_F(FullSceneTest, the_host_is_told_nothing_and_its_camera_and_window_stay)

@@ -110,9 +110,10 @@ TEST_F(LeftListTest, slides_in_at_the_left_edge_between_title_bar_and_tool_bar)
         int y;
         bool shown;
     } points[] = {
-        {"left edge of the view", 0, 300, true},  {"top of the strip", 100, 50, true}, {"in the title bar", 100, 49, false},
-        {"right end of the strip", 152, 300, true}, {"right of the strip", 153, 300, false},
-        {"lower end of the strip", 100, 507, true}, {"in the tool bar's strip", 100, 508, false},
+        {"left edge of the view", 0, 300, true},      {"top of the strip", 100, 50, true},
+        {"in the title bar", 100, 49, false},         {"right end of the strip", 152, 300, true},
+        {"right of the strip", 153, 300, false},      {"lower end of the strip", 100, 507, true},
+        {"in the tool bar's strip", 100, 508, false},
     };
     ASSERT_FALSE(Visible(List)) << "hidden when the frame is built";
     for (const auto& point : points)

@@ -64,8 +64,7 @@ protected:
         EXPECT_LE(rect.bottom, Bottom);
         EXPECT_EQ(rect.bottom - rect.top, 96);
         const CEGUI::Window& window = *Bar(List).items[static_cast<std::size_t>(index)].window;
-        EXPECT_EQ(window.getProperty("NormalImage"),
-                  "new_skin/TavGuiButtonImg" + std::to_string(index) + "_P.bmp/full_image");
+        EXPECT_EQ(window.getProperty("NormalImage"), "new_skin/TavGuiButtonImg" + std::to_string(index) + "_P.bmp/full_image");
     }
 
     /// The pixels by which the content is scrolled.

@@ -70,21 +70,24 @@ TEST_F(SlideOutTest, is_off_unless_switched_on)
 
 TEST_F(SlideOutTest, the_list_goes_to_the_left)
 {
-    ExpectSlidesOut(L"TavLeftCtrlFrame", "TavLeftCtrlFrame",
-                    [](double share) { return CPoint(static_cast<int>(1 - 152 * share), 50); }, CPoint(50, 300));
+    ExpectSlidesOut(
+        L"TavLeftCtrlFrame", "TavLeftCtrlFrame", [](double share) { return CPoint(static_cast<int>(1 - 152 * share), 50); },
+        CPoint(50, 300));
 }
 
 TEST_F(SlideOutTest, the_tool_bar_goes_down)
 {
-    ExpectSlidesOut(L"TavBotCtrlFrame", "TavBotCtrlFrame",
-                    [](double share) { return CPoint(1, static_cast<int>(508 + 90 * share)); }, CPoint(110, 550));
+    ExpectSlidesOut(
+        L"TavBotCtrlFrame", "TavBotCtrlFrame", [](double share) { return CPoint(1, static_cast<int>(508 + 90 * share)); },
+        CPoint(110, 550));
 }
 
 TEST_F(SlideOutTest, the_title_bar_goes_up_in_full_scene)
 {
     Frame().OnToolBarFullScene(true);
-    ExpectSlidesOut(L"TavTitleBackground", "TavTitleBackground",
-                    [](double share) { return CPoint(0, static_cast<int>(-50 * share)); }, CPoint(400, 20));
+    ExpectSlidesOut(
+        L"TavTitleBackground", "TavTitleBackground", [](double share) { return CPoint(0, static_cast<int>(-50 * share)); },
+        CPoint(400, 20));
 }
 
 TEST_F(SlideOutTest, the_scene_is_seen_where_the_bar_has_left)

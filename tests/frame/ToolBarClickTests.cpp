@@ -37,7 +37,7 @@ TEST_F(ToolBarClickTest, each_tool_tells_the_host_its_command)
         int tool;
         WPARAM code;
     } rows[] = {
-        {2, GUI_CMD_ROAM}, {3, GUI_CMD_ENVIRONMENT}, {4, GUI_CMD_DISPLAY_PROPERTIES}, {5, GUI_CMD_DATA_MANAGEMENT},
+        {2, GUI_CMD_ROAM},    {3, GUI_CMD_ENVIRONMENT}, {4, GUI_CMD_DISPLAY_PROPERTIES}, {5, GUI_CMD_DATA_MANAGEMENT},
         {6, GUI_CMD_PUBLISH},
     };
     SlideIn(110, 550);
@@ -115,12 +115,11 @@ TEST_F(ToolBarClickTest, the_bar_between_the_tools_swallows_clicks_and_double_cl
 TEST_F(ToolBarClickTest, no_press_release_or_click_on_bar_or_list_reaches_the_sheet)
 {
     int reached = 0;
-    for (const CEGUI::String& event :
-         {CEGUI::Window::EventMouseButtonDown, CEGUI::Window::EventMouseButtonUp, CEGUI::Window::EventMouseClick,
-          CEGUI::Window::EventMouseDoubleClick})
+    for (const CEGUI::String& event : {CEGUI::Window::EventMouseButtonDown, CEGUI::Window::EventMouseButtonUp,
+                                       CEGUI::Window::EventMouseClick, CEGUI::Window::EventMouseDoubleClick})
     {
-        GuiHost::Find("rootSheet")->subscribeEvent(
-            event, CEGUI::Event::Subscriber([&reached](const CEGUI::EventArgs&) { return ++reached, true; }));
+        GuiHost::Find("rootSheet")
+            ->subscribeEvent(event, CEGUI::Event::Subscriber([&reached](const CEGUI::EventArgs&) { return ++reached, true; }));
     }
     SlideIn(110, 550);
     Host().Click(110, 555);

@@ -41,10 +41,7 @@ protected:
         return BarPixel();
     }
 
-    static Pixel BarPixel()
-    {
-        return NativeGl::ReadPixel(400, ViewHeight - 1 - 20);
-    }
+    static Pixel BarPixel() { return NativeGl::ReadPixel(400, ViewHeight - 1 - 20); }
 };
 
 /// The state under another context's id for the life of the object.

@@ -69,7 +69,12 @@ const std::vector<Operation>& Operations()
         {"IsFullScene", [](F& f) { EXPECT_FALSE(f.IsFullScene()); }},
         {"AddBtnIndex without records", [](F& f) { EXPECT_FALSE(f.AddBtnIndex()); }},
         {"SubBtnIndex without records", [](F& f) { EXPECT_FALSE(f.SubBtnIndex()); }},
-        {"SetBtnIndex without records", [](F& f) { f.SetBtnIndex(3); EXPECT_EQ(f.GetBtnIndex(), -1); }},
+        {"SetBtnIndex without records",
+         [](F& f)
+         {
+             f.SetBtnIndex(3);
+             EXPECT_EQ(f.GetBtnIndex(), -1);
+         }},
         {"GetBtnProperty of no index", [](F& f) { EXPECT_EQ(f.GetBtnProperty(0), nullptr); }},
         {"SetCtrlBtnInfo",
          [](F& f)
@@ -82,10 +87,20 @@ const std::vector<Operation>& Operations()
         {"GetBtnProperty", [](F& f) { EXPECT_EQ(f.GetBtnProperty(L"b", 0), &f.GetCtrlBtnInfo()[1]); }},
         {"AddBtnIndex", [](F& f) { EXPECT_TRUE(f.AddBtnIndex()); }},
         {"SubBtnIndex", [](F& f) { EXPECT_FALSE(f.SubBtnIndex()); }},
-        {"SetBtnIndex", [](F& f) { f.SetBtnIndex(2); EXPECT_EQ(f.GetBtnIndex(), 2); }},
+        {"SetBtnIndex",
+         [](F& f)
+         {
+             f.SetBtnIndex(2);
+             EXPECT_EQ(f.GetBtnIndex(), 2);
+         }},
         {"SetEditBtnProperty", [](F& f) { EXPECT_FALSE(f.SetEditBtnProperty(L"b", BTN_UNIT())); }},
         {"SetEditBtnMoveState", [](F& f) { EXPECT_TRUE(f.SetEditBtnMoveState(L"b", true)); }},
-        {"DeleteButton", [](F& f) { f.DeleteButton(L""); EXPECT_EQ(f.GetCtrlBtnInfo().size(), 2u); }},
+        {"DeleteButton",
+         [](F& f)
+         {
+             f.DeleteButton(L"");
+             EXPECT_EQ(f.GetCtrlBtnInfo().size(), 2u);
+         }},
         {"ClearAllCtrlBtn", [](F& f) { f.ClearAllCtrlBtn(); }},
         {"page parameters",
          [](F& f)
@@ -120,11 +135,26 @@ const std::vector<Operation>& Operations()
              EXPECT_EQ(Utf8(f.PropertyRowName(-1)), "");
              EXPECT_EQ(Utf8(f.PropertyRowName(2)), "");
          }},
-        {"OpenPropertyDlg", [](F& f) { f.OpenPropertyDlg(nullptr, true); EXPECT_TRUE(f.IsOpenPropertyDlg()); }},
+        {"OpenPropertyDlg",
+         [](F& f)
+         {
+             f.OpenPropertyDlg(nullptr, true);
+             EXPECT_TRUE(f.IsOpenPropertyDlg());
+         }},
         {"RefreshPropertyDlg", [](F& f) { f.RefreshPropertyDlg(); }},
         {"IsNeedRefreshPropertyDlg", [](F& f) { EXPECT_FALSE(f.IsNeedRefreshPropertyDlg(CPoint(5000, 0))); }},
-        {"ClosePropertyDlg", [](F& f) { f.ClosePropertyDlg(); EXPECT_TRUE(f.IsOpenPropertyDlg()); }},
-        {"OpenPropertyDlg to close", [](F& f) { f.OpenPropertyDlg(nullptr, false); EXPECT_FALSE(f.IsOpenPropertyDlg()); }},
+        {"ClosePropertyDlg",
+         [](F& f)
+         {
+             f.ClosePropertyDlg();
+             EXPECT_TRUE(f.IsOpenPropertyDlg());
+         }},
+        {"OpenPropertyDlg to close",
+         [](F& f)
+         {
+             f.OpenPropertyDlg(nullptr, false);
+             EXPECT_FALSE(f.IsOpenPropertyDlg());
+         }},
         {"RefreshPropertyDlg of the closed panel", [](F& f) { EXPECT_FALSE(f.RefreshPropertyDlg()); }},
         {"DestroyTooltipWindow without one", [](F& f) { f.DestroyTooltipWindow(); }},
         {"CreateTooltipWindow", [](F& f) { f.CreateTooltipWindow(10, 100, L"tooltip"); }},
@@ -154,10 +184,25 @@ const std::vector<Operation>& Operations()
         {"ChangeTitleText", [](F& f) { f.ChangeTitleText(L"changed", 7, L"Noto Sans CJK SC", 12); }},
         {"ChangeTitleText to nothing", [](F& f) { f.ChangeTitleText(L"", 7, L"Noto Sans CJK SC", 12); }},
         {"CreateTitle", [](F& f) { f.CreateTitle(L"picture", 7); }},
-        {"OnToolBarFullScene", [](F& f) { f.OnToolBarFullScene(true); EXPECT_TRUE(f.IsFullScene()); }},
-        {"OnToolBarFullScene off", [](F& f) { f.OnToolBarFullScene(false); EXPECT_FALSE(f.IsFullScene()); }},
+        {"OnToolBarFullScene",
+         [](F& f)
+         {
+             f.OnToolBarFullScene(true);
+             EXPECT_TRUE(f.IsFullScene());
+         }},
+        {"OnToolBarFullScene off",
+         [](F& f)
+         {
+             f.OnToolBarFullScene(false);
+             EXPECT_FALSE(f.IsFullScene());
+         }},
         {"NotifyHost", [](F& f) { f.NotifyHost(2, 0); }},
-        {"ClearTitleSet", [](F& f) { f.ClearTitleSet(); EXPECT_EQ(f.GetSceneTitleColor(), 0xE1C8C5u); }},
+        {"ClearTitleSet",
+         [](F& f)
+         {
+             f.ClearTitleSet();
+             EXPECT_EQ(f.GetSceneTitleColor(), 0xE1C8C5u);
+         }},
         {"DestoryAllToolBar", [](F& f) { f.DestoryAllToolBar(); }},
         {"DestoryAllToolBar again", [](F& f) { f.DestoryAllToolBar(); }},
         {"ClearAllWindows", [](F& f) { f.ClearAllWindows(); }},

@@ -61,10 +61,22 @@ protected:
 
 TEST_F(Handle, passes_on_every_event_but_a_used_wheel)
 {
-    const Event::EventType types[] = {Event::NONE,  Event::MOVE,    Event::DRAG,  Event::KEYDOWN, Event::KEYUP,
-                                      Event::FRAME, Event::RELEASE, Event::PUSH,  Event::DOUBLECLICK, Event::RESIZE,
-                                      Event::SCROLL, Event::PEN_PRESSURE, Event::PEN_ORIENTATION, Event::CLOSE_WINDOW,
-                                      Event::QUIT_APPLICATION, Event::USER};
+    const Event::EventType types[] = {Event::NONE,
+                                      Event::MOVE,
+                                      Event::DRAG,
+                                      Event::KEYDOWN,
+                                      Event::KEYUP,
+                                      Event::FRAME,
+                                      Event::RELEASE,
+                                      Event::PUSH,
+                                      Event::DOUBLECLICK,
+                                      Event::RESIZE,
+                                      Event::SCROLL,
+                                      Event::PEN_PRESSURE,
+                                      Event::PEN_ORIENTATION,
+                                      Event::CLOSE_WINDOW,
+                                      Event::QUIT_APPLICATION,
+                                      Event::USER};
     Frame().EnablePopupMenu(false);
     for (const Event::EventType type : types)
     {
@@ -210,9 +222,9 @@ TEST_F(Handle, events_without_cegui_are_passed_on)
 TEST_F(Handle, never_raises_what_a_slot_raises_but_logs_it)
 {
     CEGUI::Window& root = *CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow();
-    root.subscribeEvent(CEGUI::Window::EventMouseButtonDown,
-                        CEGUI::Event::Subscriber([](const CEGUI::EventArgs&) -> bool
-                                                 { throw CEGUI::InvalidRequestException("not so"); }));
+    root.subscribeEvent(
+        CEGUI::Window::EventMouseButtonDown,
+        CEGUI::Event::Subscriber([](const CEGUI::EventArgs&) -> bool { throw CEGUI::InvalidRequestException("not so"); }));
     root.subscribeEvent(CEGUI::Window::EventMouseButtonUp,
                         CEGUI::Event::Subscriber([](const CEGUI::EventArgs&) -> bool { throw std::runtime_error("nor so"); }));
     EXPECT_FALSE(Give(Event::PUSH, Event::LEFT_MOUSE_BUTTON));

@@ -15,8 +15,7 @@ protected:
     static osg::Camera& Camera() { return dynamic_cast<osg::Camera&>(*Frame().GetGUINode()); }
     static const osg::Program* Program()
     {
-        return static_cast<const osg::Program*>(
-            Drawable().getStateSet()->getAttribute(osg::StateAttribute::PROGRAM));
+        return static_cast<const osg::Program*>(Drawable().getStateSet()->getAttribute(osg::StateAttribute::PROGRAM));
     }
     /// Starts the interface anew. @return what went to standard output
     static std::string StartAgain()

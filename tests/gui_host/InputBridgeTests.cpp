@@ -29,14 +29,14 @@ protected:
     /// Records an event of the root sheet. The event goes on unless it is taken.
     void Watch(const CEGUI::String& event, bool take = false)
     {
-        Gui().getRootWindow()->subscribeEvent(event, CEGUI::Event::Subscriber(
-                                                         [this, take](const CEGUI::EventArgs& args)
-                                                         {
-                                                             const auto& mouse = static_cast<const CEGUI::MouseEventArgs&>(args);
-                                                             seen.push_back({mouse.position.d_x, mouse.position.d_y,
-                                                                             mouse.button, mouse.wheelChange});
-                                                             return take;
-                                                         }));
+        Gui().getRootWindow()->subscribeEvent(
+            event, CEGUI::Event::Subscriber(
+                       [this, take](const CEGUI::EventArgs& args)
+                       {
+                           const auto& mouse = static_cast<const CEGUI::MouseEventArgs&>(args);
+                           seen.push_back({mouse.position.d_x, mouse.position.d_y, mouse.button, mouse.wheelChange});
+                           return take;
+                       }));
     }
     void TearDown() override
     {
@@ -268,13 +268,12 @@ TEST_F(InputBridge, resize_makes_every_window_anew)
     const std::size_t count = former.size();
     ASSERT_GT(count, 15u);
     const CEGUI::Event::ScopedConnection watch = CEGUI::WindowManager::getSingleton().subscribeEvent(
-        CEGUI::WindowManager::EventWindowDestroyed,
-        CEGUI::Event::Subscriber(
-            [&](const CEGUI::EventArgs& args)
-            {
-                former.erase(static_cast<const CEGUI::WindowEventArgs&>(args).window);
-                return false;
-            }));
+        CEGUI::WindowManager::EventWindowDestroyed, CEGUI::Event::Subscriber(
+                                                        [&](const CEGUI::EventArgs& args)
+                                                        {
+                                                            former.erase(static_cast<const CEGUI::WindowEventArgs&>(args).window);
+                                                            return false;
+                                                        }));
     Rebuild();
     EXPECT_EQ(former.size(), 0u) << "windows that outlived the resize";
     EXPECT_EQ(live().size(), count);

@@ -55,7 +55,7 @@ TEST_F(Keys, page_down_goes_to_the_next_record_and_page_up_to_the_one_before)
         int index;
         bool told;
     } rows[] = {
-        {VK_NEXT, 0, true}, {VK_NEXT, 1, true},  {VK_NEXT, 2, true},  {VK_NEXT, 2, false},
+        {VK_NEXT, 0, true},  {VK_NEXT, 1, true},  {VK_NEXT, 2, true},   {VK_NEXT, 2, false},
         {VK_PRIOR, 1, true}, {VK_PRIOR, 0, true}, {VK_PRIOR, 0, false},
     };
     int step = 0;

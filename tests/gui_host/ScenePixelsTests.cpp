@@ -37,8 +37,8 @@ osg::Texture2D* Checker(unsigned char red, unsigned char green, int cell)
 
 osg::Geometry* Quad(float left, float right)
 {
-    osg::Geometry* quad = osg::createTexturedQuadGeometry(osg::Vec3(left, 0, -50), osg::Vec3(right - left, 0, 0),
-                                                          osg::Vec3(0, 0, 100));
+    osg::Geometry* quad =
+        osg::createTexturedQuadGeometry(osg::Vec3(left, 0, -50), osg::Vec3(right - left, 0, 0), osg::Vec3(0, 0, 100));
     quad->setTexCoordArray(1, quad->getTexCoordArray(0));
     return quad;
 }
@@ -91,10 +91,7 @@ class ReadBefore : public osg::Camera::DrawCallback
 {
 public:
     explicit ReadBefore(osg::Image* image) : image_(image) {}
-    void operator()(osg::RenderInfo&) const override
-    {
-        image_->readPixels(0, 0, 800, 600, GL_RGB, GL_UNSIGNED_BYTE);
-    }
+    void operator()(osg::RenderInfo&) const override { image_->readPixels(0, 0, 800, 600, GL_RGB, GL_UNSIGNED_BYTE); }
 
 private:
     osg::ref_ptr<osg::Image> image_;

@@ -147,8 +147,8 @@ TEST_F(Dialog, TakesItsMembersFromItsControls)
 {
     Show();
     form.SetDlgItemText(TextEdit, L"changed");
-    for (const auto& [shown, value] : std::vector<std::pair<const wchar_t*, float>>{
-             {L"20", 20.0f}, {L"0.25", 0.25f}, {L"-3", -3.0f}, {L"1e3", 1000.0f}})
+    for (const auto& [shown, value] :
+         std::vector<std::pair<const wchar_t*, float>>{{L"20", 20.0f}, {L"0.25", 0.25f}, {L"-3", -3.0f}, {L"1e3", 1000.0f}})
     {
         form.SetDlgItemText(NumberEdit, shown);
         EXPECT_TRUE(form.UpdateData()) << Utf8(shown);

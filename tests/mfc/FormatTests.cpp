@@ -30,7 +30,7 @@ TEST(Format, WritesWholeNumbers)
 TEST(Format, TakesLongFor32Bits)
 {
     EXPECT_EQ(Formatted(L"%ld|%lu|%lx", static_cast<LONG>(-5), static_cast<DWORD>(4294967291u), static_cast<DWORD>(255)),
-        "-5|4294967291|ff");
+              "-5|4294967291|ff");
     EXPECT_EQ(Formatted(L"%ld", static_cast<long>(-7)), "-7");
 }
 
@@ -38,7 +38,7 @@ TEST(Format, Writes64Bits)
 {
     EXPECT_EQ(Formatted(L"%I64d|%lld", -1234567890123LL, 9007199254740993LL), "-1234567890123|9007199254740993");
     EXPECT_EQ(Formatted(L"%I64u|%I64x|%016I64X", 18446744073709551615ULL, 0x1234567890ULL, 0xABCULL),
-        "18446744073709551615|1234567890|0000000000000ABC");
+              "18446744073709551615|1234567890|0000000000000ABC");
 }
 
 TEST(Format, WritesFractions)

@@ -84,8 +84,8 @@ TEST(ImageFile, KeepsOpaquePictures)
         int depth;
         int tolerance;
     };
-    const Row rows[] = {{L"bmp", 24, 0}, {L"png", 24, 0}, {L"tiff", 24, 0}, {L"bmp", 32, 0}, {L"png", 32, 0},
-        {L"jpg", 24, 40}, {L"jpeg", 32, 40}};
+    const Row rows[] = {{L"bmp", 24, 0}, {L"png", 24, 0},  {L"tiff", 24, 0}, {L"bmp", 32, 0},
+                        {L"png", 32, 0}, {L"jpg", 24, 40}, {L"jpeg", 32, 40}};
     for (const Row& row : rows)
     {
         for (int height : {Height, -Height})

@@ -58,8 +58,15 @@ TEST(Image, RefusesWhatCannotBe)
         int depth;
         DWORD flags;
     };
-    const Row rows[] = {{0, 1, 32, 0}, {-1, 1, 32, 0}, {1, 0, 32, 0}, {1, 1, 0, 0}, {1, 1, 7, 0}, {1, 1, 64, 0},
-        {1, 1, 24, CImage::createAlphaChannel}, {100000, 100000, 32, 0}, {1, static_cast<int>(0x80000000), 32, 0}};
+    const Row rows[] = {{0, 1, 32, 0},
+                        {-1, 1, 32, 0},
+                        {1, 0, 32, 0},
+                        {1, 1, 0, 0},
+                        {1, 1, 7, 0},
+                        {1, 1, 64, 0},
+                        {1, 1, 24, CImage::createAlphaChannel},
+                        {100000, 100000, 32, 0},
+                        {1, static_cast<int>(0x80000000), 32, 0}};
     for (const Row& row : rows)
     {
         CImage image;
@@ -156,8 +163,8 @@ TEST(ImageFilters, ListTheFormats)
     CString exportFilter;
     CSimpleArray<GUID> exportFormats;
     ASSERT_EQ(CImage::GetExporterFilterString(exportFilter, exportFormats, nullptr,
-                  CImage::excludeDefaultSave | CImage::excludePNG | CImage::excludeOther, L'!'),
-        S_OK);
+                                              CImage::excludeDefaultSave | CImage::excludePNG | CImage::excludeOther, L'!'),
+              S_OK);
     EXPECT_LT(exportFilter.Find(L"PNG"), 0);
     EXPECT_GE(exportFilter.Find(L"*.BMP"), 0);
     EXPECT_LT(exportFilter.Find(L'|'), 0);

@@ -12,22 +12,14 @@ TEST(StringParts, AreCutToTheText)
         const char* expected;
     };
     const Row rows[] = {
-        {"Left(2)", text.Left(2), "ab"},
-        {"Left(0)", text.Left(0), ""},
-        {"Left(-1)", text.Left(-1), ""},
-        {"Left(9)", text.Left(9), "abcdef"},
-        {"Right(2)", text.Right(2), "ef"},
-        {"Right(0)", text.Right(0), ""},
-        {"Right(-1)", text.Right(-1), ""},
-        {"Right(9)", text.Right(9), "abcdef"},
-        {"Mid(4)", text.Mid(4), "ef"},
-        {"Mid(6)", text.Mid(6), ""},
-        {"Mid(9)", text.Mid(9), ""},
-        {"Mid(-1)", text.Mid(-1), "abcdef"},
-        {"Mid(1,3)", text.Mid(1, 3), "bcd"},
-        {"Mid(4,9)", text.Mid(4, 9), "ef"},
-        {"Mid(4,-1)", text.Mid(4, -1), ""},
-        {"Mid(1,INT_MAX)", text.Mid(1, 0x7FFFFFFF), "bcdef"},
+        {"Left(2)", text.Left(2), "ab"},     {"Left(0)", text.Left(0), ""},
+        {"Left(-1)", text.Left(-1), ""},     {"Left(9)", text.Left(9), "abcdef"},
+        {"Right(2)", text.Right(2), "ef"},   {"Right(0)", text.Right(0), ""},
+        {"Right(-1)", text.Right(-1), ""},   {"Right(9)", text.Right(9), "abcdef"},
+        {"Mid(4)", text.Mid(4), "ef"},       {"Mid(6)", text.Mid(6), ""},
+        {"Mid(9)", text.Mid(9), ""},         {"Mid(-1)", text.Mid(-1), "abcdef"},
+        {"Mid(1,3)", text.Mid(1, 3), "bcd"}, {"Mid(4,9)", text.Mid(4, 9), "ef"},
+        {"Mid(4,-1)", text.Mid(4, -1), ""},  {"Mid(1,INT_MAX)", text.Mid(1, 0x7FFFFFFF), "bcdef"},
     };
     for (const Row& row : rows)
     {

@@ -110,16 +110,11 @@ TEST(String, ComparesByOrdinal)
         int orderNoCase;
     };
     const Row rows[] = {
-        {L"", L"", 0, 0},
-        {L"", L"a", -1, -1},
-        {L"a", L"", 1, 1},
-        {L"abc", L"abd", -1, -1},
-        {L"abc", L"abcd", -1, -1},
-        {L"B", L"a", -1, 1},
-        {L"ABC", L"abc", -1, 0},
-        {L"城市", L"城市", 0, 0},
-        {L"Z", L"城", -1, -1},
-        {L"\x7FFF", L"\x8000", -1, -1},
+        {L"", L"", 0, 0},          {L"", L"a", -1, -1},
+        {L"a", L"", 1, 1},         {L"abc", L"abd", -1, -1},
+        {L"abc", L"abcd", -1, -1}, {L"B", L"a", -1, 1},
+        {L"ABC", L"abc", -1, 0},   {L"城市", L"城市", 0, 0},
+        {L"Z", L"城", -1, -1},     {L"\x7FFF", L"\x8000", -1, -1},
     };
     const auto sign = [](int value) { return (value > 0) - (value < 0); };
     for (const Row& row : rows)

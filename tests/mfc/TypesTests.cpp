@@ -30,8 +30,8 @@ TEST(Types, RectanglesEndBeforeTheirRightAndBottom)
         POINT point;
         bool inside;
     };
-    const Row rows[] = {{{10, 20}, true}, {{29, 59}, true}, {{30, 40}, false}, {{20, 60}, false}, {{9, 40}, false},
-        {{20, 19}, false}};
+    const Row rows[] = {{{10, 20}, true},  {{29, 59}, true}, {{30, 40}, false},
+                        {{20, 60}, false}, {{9, 40}, false}, {{20, 19}, false}};
     for (const Row& row : rows)
     {
         EXPECT_EQ(rect.PtInRect(row.point) != FALSE, row.inside) << row.point.x << ", " << row.point.y;

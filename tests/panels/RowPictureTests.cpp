@@ -27,8 +27,8 @@ TEST_F(RowPictureTest, names_and_values_stand_at_their_places)
     const PictureFile list = ReadPictureFile(ListFile());
     for (std::size_t row = 0; row < rows.size(); ++row)
     {
-        EXPECT_TRUE(SamePixels(list, static_cast<int>(row) * RowHeight, DrawnRow(rows[row].first, rows[row].second), 0,
-                               RowHeight))
+        EXPECT_TRUE(
+            SamePixels(list, static_cast<int>(row) * RowHeight, DrawnRow(rows[row].first, rows[row].second), 0, RowHeight))
             << "row " << row;
     }
     EXPECT_TRUE(SamePixels(list, 4 * RowHeight, DrawnRow(L"", L""), 0, RowHeight)) << "below the last row";
@@ -46,9 +46,8 @@ TEST_F(RowPictureTest, texts_wider_than_their_columns_are_shortened)
     {
         for (int value = 5; value < 10; ++value)
         {
-            const bool same = bool(SamePixels(list, 0, DrawnRow(CString(longText).Left(name) + L"...",
-                                                                CString(longText).Left(value) + L"..."),
-                                              0, RowHeight));
+            const bool same = bool(SamePixels(
+                list, 0, DrawnRow(CString(longText).Left(name) + L"...", CString(longText).Left(value) + L"..."), 0, RowHeight));
             fitting += same;
         }
     }
@@ -65,8 +64,8 @@ TEST_F(RowPictureTest, rows_make_the_picture_taller_than_its_place)
     for (const int row : {0, 1, 21, 22, 39})
     {
         EXPECT_TRUE(SamePixels(list, row * RowHeight,
-                               DrawnRow(rows[static_cast<std::size_t>(row)].first, rows[static_cast<std::size_t>(row)].second),
-                               0, RowHeight))
+                               DrawnRow(rows[static_cast<std::size_t>(row)].first, rows[static_cast<std::size_t>(row)].second), 0,
+                               RowHeight))
             << "row " << row;
     }
 }
@@ -111,8 +110,8 @@ TEST_F(RowPictureTest, what_is_seen_is_the_rows_over_the_scene)
         {
             for (int x = 0; x < 260; ++x)
             {
-                differing += !LooksLike(shot.At(538 + x, ListTop + row * RowHeight + y),
-                                        Blend(drawn.Argb(x, y), Background()), 4);
+                differing +=
+                    !LooksLike(shot.At(538 + x, ListTop + row * RowHeight + y), Blend(drawn.Argb(x, y), Background()), 4);
             }
         }
         EXPECT_EQ(differing, 0) << "row " << row;

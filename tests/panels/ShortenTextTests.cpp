@@ -24,8 +24,7 @@ public:
 CString WithoutLastCharacter(const CString& text)
 {
     const int length = text.GetLength();
-    const bool pair =
-        length >= 2 && IS_LOW_SURROGATE(text.GetAt(length - 1)) && IS_HIGH_SURROGATE(text.GetAt(length - 2));
+    const bool pair = length >= 2 && IS_LOW_SURROGATE(text.GetAt(length - 1)) && IS_HIGH_SURROGATE(text.GetAt(length - 2));
     return text.Left(length - (pair ? 2 : 1));
 }
 
@@ -57,8 +56,8 @@ CString Repeated(const wchar_t* piece, int times)
 std::vector<CString> Texts()
 {
     std::vector<CString> texts;
-    for (const wchar_t* piece : {L"i", L"W", L"面", L"\xD83C\xDFD9", L"a\xD83C\xDFD9", L"Height m ", L"层高3.6", L"é", L"、", L"AV",
-                                 L"x\xD83C", L"\xDFD9y", L"\t", L"e\x0301", L"1\n2", L"."})
+    for (const wchar_t* piece : {L"i", L"W", L"面", L"\xD83C\xDFD9", L"a\xD83C\xDFD9", L"Height m ", L"层高3.6", L"é", L"、",
+                                 L"AV", L"x\xD83C", L"\xDFD9y", L"\t", L"e\x0301", L"1\n2", L"."})
     {
         for (int times = 1; times <= 30; ++times)
         {

@@ -81,9 +81,8 @@ TEST(SystemUtility, TakesTheBaseTitleOfAFile)
 TEST(ParamConfig, GivesParametersInTheAnsiCodePage)
 {
     TestFolder folder;
-    folder.Write(L"config\\parameters.ini",
-        "Outside=1\n[Parameters]\nCEGUI_SkinDir=cegui\\TavLook\\\n"
-        "QMV发布右键菜单 = D:\\菜单.xml\nEmpty=\n[Other]\nElse=2\n");
+    folder.Write(L"config\\parameters.ini", "Outside=1\n[Parameters]\nCEGUI_SkinDir=cegui\\TavLook\\\n"
+                                            "QMV发布右键菜单 = D:\\菜单.xml\nEmpty=\n[Other]\nElse=2\n");
     CParamConfig* config = CParamConfig::getInstance();
     ASSERT_EQ(config, CParamConfig::getInstance());
     EXPECT_EQ(config->getStringParam("CEGUI_SkinDir"), "cegui\\TavLook\\");

@@ -18,10 +18,10 @@ std::string BytesOf(const std::string& name)
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
 }
 
-const char* const Keys[] = {"LKEY0", "LKEY1", "LKEY2", "LKEY3", "LKEY4", "LKEY5", "LKEY6", "LKEY7", "LKEY8", "LKEY9", "LKEY10",
-    "LKEY11", "LKEY12", "LKEY30", "LKEY31", "LKEY32", "LKEY33", "LKEY34", "LKEY67", "LKEY10134", "LKEY10159",
-    "LKEY10160", "LKEY10161", "LKEY10239", "LKEY10266.", "LKEY10361",
-    "LKEY10362"};
+const char* const Keys[] = {"LKEY0",     "LKEY1",     "LKEY2",     "LKEY3",      "LKEY4",     "LKEY5",     "LKEY6",
+                            "LKEY7",     "LKEY8",     "LKEY9",     "LKEY10",     "LKEY11",    "LKEY12",    "LKEY30",
+                            "LKEY31",    "LKEY32",    "LKEY33",    "LKEY34",     "LKEY67",    "LKEY10134", "LKEY10159",
+                            "LKEY10160", "LKEY10161", "LKEY10239", "LKEY10266.", "LKEY10361", "LKEY10362"};
 } // namespace
 
 TEST(ApplicationData, HasATextForEveryKeyInBothLanguages)

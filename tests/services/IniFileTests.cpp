@@ -43,9 +43,9 @@ TEST(IniFile, ReadsEveryEncoding)
         {"UTF-16 LE", Utf16(Content, false), 0},
         {"UTF-16 BE", Utf16(Content, true), 0},
         {"ANSI 936",
-            "[\xB7\xA2\xB2\xBC\xB6\xC0\xC1\xA2\xB3\xCC\xD0\xF2\xCE\xC4\xD7\xD6]\r\n"
-            "\xB1\xEA\xCC\xE2=\xB1\xF5\xBD\xAD\xD0\xC2\xB3\xC7\r\nsize=13",
-            936},
+         "[\xB7\xA2\xB2\xBC\xB6\xC0\xC1\xA2\xB3\xCC\xD0\xF2\xCE\xC4\xD7\xD6]\r\n"
+         "\xB1\xEA\xCC\xE2=\xB1\xF5\xBD\xAD\xD0\xC2\xB3\xC7\r\nsize=13",
+         936},
     };
     for (const Row& row : rows)
     {
@@ -132,9 +132,9 @@ TEST(IniFile, ReportsMalformedLinesAndKeepsTheRest)
         {"UTF-8", Utf8Mark + "[s]\na=1\nc=\xE5\x9F\nb=2\n", ", line 3: not valid UTF-8; the line is skipped."},
         {"overlong", Utf8Mark + "[s]\na=1\nc=\xC0\xAF\nb=2\n", ", line 3: not valid UTF-8; the line is skipped."},
         {"UTF-16", Utf16("[s]\na=1\nc=", false) + Bytes("\x3C\xD8\n\0") + Utf16("b=2\n", false).substr(2),
-            ", line 3: not valid UTF-16; the line is skipped."},
+         ", line 3: not valid UTF-16; the line is skipped."},
         {"UTF-16 null", Utf16("[s]\na=1\nc=", true) + Bytes("\0\0\0\n") + Utf16("b=2\n", true).substr(2),
-            ", line 3: a null in it; the line is skipped."},
+         ", line 3: a null in it; the line is skipped."},
         {"half a unit", Utf16("[s]\na=1\nb=2\nc=3", false) + "x", ", line 4: not valid UTF-16; the line is skipped."},
         {"in a comment", Utf8Mark + "[s]\na=1\nb=2\n;\xFF\n", ", line 4: not valid UTF-8; the line is skipped."},
     };

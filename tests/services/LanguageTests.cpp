@@ -83,17 +83,15 @@ TEST(Language, ReportsAMissingTableOnce)
 TEST(Language, ReportsMalformedLinesAndKeepsTheRest)
 {
     TestFolder folder;
-    const CString path = folder.Write(L"languages\\zh-CN.ini",
-        Bytes("[Common]\nLKEY1=\xB9\xD8\nnonsense\n=x\n[bad\nLKEY2=a\0b\nLKEY3=进入\n"));
+    const CString path =
+        folder.Write(L"languages\\zh-CN.ini", Bytes("[Common]\nLKEY1=\xB9\xD8\nnonsense\n=x\n[bad\nLKEY2=a\0b\nLKEY3=进入\n"));
     EXPECT_EQ(Translated("LKEY1"), "LKEY1");
     EXPECT_EQ(Translated("LKEY2"), "LKEY2");
     EXPECT_EQ(Translated("LKEY3"), "进入");
     const std::string line = Utf8(path) + ", line ";
     const std::vector<std::string> report{
-        line + "2: not valid UTF-8; the line is skipped.",
-        line + "3: no '=' in it; the line is skipped.",
-        line + "4: an empty key; the line is skipped.",
-        line + "5: a section bracket that is not closed; the line is skipped.",
+        line + "2: not valid UTF-8; the line is skipped.", line + "3: no '=' in it; the line is skipped.",
+        line + "4: an empty key; the line is skipped.",    line + "5: a section bracket that is not closed; the line is skipped.",
         line + "6: a null in it; the line is skipped.",
     };
     EXPECT_EQ(folder.TakeLog(), report);

@@ -38,7 +38,8 @@ TEST(StringConvert, CountsTwoBytesForAChineseCharacterInCodePage936)
     {
         GTEST_SKIP() << "needs the code page 936";
     }
-    EXPECT_EQ(strUtf8ToAnsi("城市ab"), "\xB3\xC7\xCA\xD0" "ab");
+    EXPECT_EQ(strUtf8ToAnsi("城市ab"), "\xB3\xC7\xCA\xD0"
+                                       "ab");
     EXPECT_EQ(_w2a(L"城市"), "\xB3\xC7\xCA\xD0");
     EXPECT_EQ(Utf8(_a2w("\xB3\xC7\xCA\xD0")), "城市");
     EXPECT_EQ(strUtf8ToAnsi(""), "");

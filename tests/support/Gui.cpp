@@ -157,8 +157,8 @@ GuiHost::GuiHost(int width, int height, osg::Node* scene) : width_(width), heigh
     }
     viewer_->setSceneData(root_);
     viewer_->realize();
-    viewerProcedure_ = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(view_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&GuiHost::OwnMouseOnly)));
+    viewerProcedure_ =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(view_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&GuiHost::OwnMouseOnly)));
 }
 
 GuiHost::~GuiHost()
@@ -409,8 +409,8 @@ std::vector<std::string> LogLines()
 int CountLogLines(const std::string& text)
 {
     const std::vector<std::string> lines = LogLines();
-    return static_cast<int>(std::count_if(lines.begin(), lines.end(), [&](const std::string& line)
-                                          { return line.find(text) != std::string::npos; }));
+    return static_cast<int>(
+        std::count_if(lines.begin(), lines.end(), [&](const std::string& line) { return line.find(text) != std::string::npos; }));
 }
 
 std::vector<std::uint8_t> ReadBytes(const CString& path)

@@ -125,7 +125,7 @@ private:
     HWND main_ = nullptr;
     HWND view_ = nullptr;
     WNDPROC viewerProcedure_ = nullptr;
-    LPARAM mousePosition_ = -1;  ///< of the last move that a test has made; none yet
+    LPARAM mousePosition_ = -1; ///< of the last move that a test has made; none yet
     CWnd mainWnd_;
     osg::ref_ptr<osgViewer::Viewer> viewer_;
     osg::ref_ptr<osg::Group> root_;

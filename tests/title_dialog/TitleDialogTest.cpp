@@ -144,8 +144,8 @@ void TitleDialogTest::SetText(int id, const CString& text)
 
 void TitleDialogTest::ChooseFont(const CString& face)
 {
-    const LRESULT index = SendMessageW(Control(FontList), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                       reinterpret_cast<LPARAM>(face.GetString()));
+    const LRESULT index =
+        SendMessageW(Control(FontList), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(face.GetString()));
     ASSERT_GE(index, 0) << Utf8(face);
     SendMessageW(Control(FontList), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     SendMessageW(Dialog(), WM_COMMAND, MAKEWPARAM(FontList, CBN_SELCHANGE), reinterpret_cast<LPARAM>(Control(FontList)));

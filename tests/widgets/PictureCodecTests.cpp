@@ -189,12 +189,14 @@ TEST(PictureCodec, written_bitmap_reads_back_the_same)
     const std::vector<std::uint8_t> bytes = ReadBytes(path);
     EXPECT_EQ(bytes.size(), 54u + 3 * 2 * 4);
     ExpectPixels(bytes, Clear);
-    EXPECT_EQ(bytes, [&] {
-        std::vector<std::uint8_t> expected = Bmp32(Clear);
-        Put32(expected, 38, 0);
-        Put32(expected, 42, 0);
-        return expected;
-    }());
+    EXPECT_EQ(bytes,
+              [&]
+              {
+                  std::vector<std::uint8_t> expected = Bmp32(Clear);
+                  Put32(expected, 38, 0);
+                  Put32(expected, 42, 0);
+                  return expected;
+              }());
 }
 
 TEST(PictureCodec, codec_names_every_kind_of_file_in_the_encoder_table)

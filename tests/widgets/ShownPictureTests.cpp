@@ -83,10 +83,8 @@ TEST_F(ShownPicture, bitmap_with_alpha_is_blended_with_the_scene)
         osg::Vec4 scene;
         Pixel expected;
     } rows[] = {
-        {0x80FF0000, {0.2f, 0.4f, 0.6f, 1}, {153, 51, 76}},
-        {0x400080FF, {1, 1, 1, 1}, {191, 223, 255}},
-        {0xC0FFFFFF, {0, 0, 0, 1}, {192, 192, 192}},
-        {0x00FFFFFF, {0.2f, 0.4f, 0.6f, 1}, {51, 102, 153}},
+        {0x80FF0000, {0.2f, 0.4f, 0.6f, 1}, {153, 51, 76}}, {0x400080FF, {1, 1, 1, 1}, {191, 223, 255}},
+        {0xC0FFFFFF, {0, 0, 0, 1}, {192, 192, 192}},        {0x00FFFFFF, {0.2f, 0.4f, 0.6f, 1}, {51, 102, 153}},
         {0xFF112233, {1, 1, 1, 1}, {17, 34, 51}},
     };
     osg::Camera& camera = *Host().Viewer().getCamera();
@@ -114,8 +112,7 @@ TEST_F(ShownPicture, every_kind_of_picture_file_shows_on_the_screen)
     WriteWithEncoder(Solid(16, 16, 0xFF0000FF), L"image/gif", SkinDir() + L"kind.gif");
     WriteBytes(SkinDir() + L"kind24.bmp", Bmp24(blue));
     WriteBytes(SkinDir() + L"kind8.bmp", Bmp8(blue));
-    for (const wchar_t* file :
-         {L"kind.png", L"kind.jpg", L"kind.jpeg", L"kind.tiff", L"kind.gif", L"kind24.bmp", L"kind8.bmp"})
+    for (const wchar_t* file : {L"kind.png", L"kind.jpg", L"kind.jpeg", L"kind.tiff", L"kind.gif", L"kind24.bmp", L"kind8.bmp"})
     {
         CeGuiToolBar& bar = Show(file);
         const Pixel shown = Shown();

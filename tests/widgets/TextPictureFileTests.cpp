@@ -24,9 +24,14 @@ TEST_F(TextPictureFile, each_extension_writes_its_kind_of_file)
     {
         const wchar_t* name;
         std::vector<std::uint8_t> start;
-    } rows[] = {{L"k.bmp", {'B', 'M'}},       {L"k.jpeg", {0xFF, 0xD8}}, {L"k.jpg", {0xFF, 0xD8}},
-                {L"k.gif", {'G', 'I', 'F'}},  {L"k.tiff", {'I', 'I'}},   {L"k.png", {0x89, 'P', 'N', 'G'}},
-                {L"k2.PNG", {0x89, 'P', 'N', 'G'}}, {L"k2.Bmp", {'B', 'M'}}};
+    } rows[] = {{L"k.bmp", {'B', 'M'}},
+                {L"k.jpeg", {0xFF, 0xD8}},
+                {L"k.jpg", {0xFF, 0xD8}},
+                {L"k.gif", {'G', 'I', 'F'}},
+                {L"k.tiff", {'I', 'I'}},
+                {L"k.png", {0x89, 'P', 'N', 'G'}},
+                {L"k2.PNG", {0x89, 'P', 'N', 'G'}},
+                {L"k2.Bmp", {'B', 'M'}}};
     for (const auto& row : rows)
     {
         SCOPED_TRACE(Utf8(row.name));
@@ -49,7 +54,7 @@ TEST_F(TextPictureFile, refused_calls_write_nothing_and_leave_the_former_file)
         const wchar_t *name, *font;
         UINT width;
     } rows[] = {
-        {"no font", L"r.bmp", L"", 40},  {"a tif", L"r.tif", Latin, 40},     {"a TIF", L"r.TIF", Latin, 40},
+        {"no font", L"r.bmp", L"", 40},   {"a tif", L"r.tif", Latin, 40},    {"a TIF", L"r.TIF", Latin, 40},
         {"unknown", L"r.ico", Latin, 40}, {"no extension", L"r", Latin, 40}, {"no width", L"r.bmp", Latin, 0},
     };
     for (const auto& row : rows)

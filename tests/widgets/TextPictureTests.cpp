@@ -170,8 +170,8 @@ TEST_F(TextPicture, chinese_characters_are_drawn)
 TEST_F(TextPicture, font_that_is_not_installed_leaves_the_text_out)
 {
     EXPECT_TRUE(DrawTextToImageFile(Path(L"nofont.bmp"), 100, 30, L"No Such Family", 20, 0x00FFFFFF, L"text"));
-    EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: font family not installed, text left out of " + Utf8(Path(L"nofont.bmp")) +
-                               ": No Such Family"});
+    EXPECT_EQ(TakeLog(),
+              Lines{"NxOsgCeGui: font family not installed, text left out of " + Utf8(Path(L"nofont.bmp")) + ": No Such Family"});
     const PictureFile file = ReadPictureFile(Path(L"nofont.bmp"));
     EXPECT_EQ(file.width, 100);
     EXPECT_TRUE(IsBlank(file));

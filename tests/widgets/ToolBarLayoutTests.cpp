@@ -27,6 +27,7 @@ CEGUI::Window& AddButton(CeGuiToolBar& bar, const wchar_t* name)
 
 TEST_F(ToolBarLayout, buttons_of_each_type_stand_in_their_row_or_column)
 {
+    // clang-format off: a table
     const struct
     {
         const char* name;
@@ -35,21 +36,57 @@ TEST_F(ToolBarLayout, buttons_of_each_type_stand_in_their_row_or_column)
         UINT width, height, marginX, marginY, spacing;
         RECT buttons[3];
     } rows[] = {
-        {"title bar", BAR_TITLE, {0, 0, 400, 50}, 24, 24, 16, 13, 20,
+        {"title bar",
+         BAR_TITLE,
+         {0, 0, 400, 50},
+         24,
+         24,
+         16,
+         13,
+         20,
          {{360, 13, 384, 37}, {316, 13, 340, 37}, {272, 13, 296, 37}}},
-        {"title bar off the corner", BAR_TITLE, {50, 10, 350, 60}, 24, 24, 16, 13, 20,
+        {"title bar off the corner",
+         BAR_TITLE,
+         {50, 10, 350, 60},
+         24,
+         24,
+         16,
+         13,
+         20,
          {{310, 23, 334, 47}, {266, 23, 290, 47}, {222, 23, 246, 47}}},
-        {"tool bar", BAR_TOOLS, {0, 210, 400, 300}, 62, 62, 30, 16, 30,
+        {"tool bar",
+         BAR_TOOLS,
+         {0, 210, 400, 300},
+         62,
+         62,
+         30,
+         16,
+         30,
          {{30, 226, 92, 288}, {122, 226, 184, 288}, {214, 226, 276, 288}}},
-        {"left list", BAR_LIST, {2, 50, 152, 250}, 126, 96, 10, 13, 13,
+        {"left list",
+         BAR_LIST,
+         {2, 50, 152, 250},
+         126,
+         96,
+         10,
+         13,
+         13,
          {{12, 63, 138, 159}, {12, 172, 138, 268}, {12, 281, 138, 377}}},
-        {"property panel", BAR_PANEL, {100, 50, 300, 250}, 40, 30, 10, 13, 13,
+        {"property panel",
+         BAR_PANEL,
+         {100, 50, 300, 250},
+         40,
+         30,
+         10,
+         13,
+         13,
          {{100, 50, 140, 80}, {100, 50, 140, 80}, {100, 50, 140, 80}}},
         {"type 0", 0, {10, 20, 110, 120}, 40, 30, 10, 13, 13, {{10, 20, 50, 50}, {10, 20, 50, 50}, {10, 20, 50, 50}}},
         {"type 3", 3, {10, 20, 110, 120}, 40, 30, 10, 13, 13, {{10, 20, 50, 50}, {10, 20, 50, 50}, {10, 20, 50, 50}}},
         {"type 5", 5, {10, 20, 110, 120}, 40, 30, 10, 13, 13, {{10, 20, 50, 50}, {10, 20, 50, 50}, {10, 20, 50, 50}}},
         {"type 99", 99, {10, 20, 110, 120}, 40, 30, 10, 13, 13, {{10, 20, 50, 50}, {10, 20, 50, 50}, {10, 20, 50, 50}}},
     };
+    // clang-format on
     for (const auto& row : rows)
     {
         SCOPED_TRACE(row.name);
@@ -151,8 +188,8 @@ TEST_F(ToolBarLayout, content_extent_counts_in_lists_and_panels_only)
     {
         UINT type;
         float empty, after;
-    } rows[] = {{BAR_TITLE, 1.0f, 1.0f}, {BAR_TOOLS, 1.0f, 1.0f}, {BAR_LIST, 0.26f, 1.35f},
-                {BAR_PANEL, 0.26f, 0.91f}, {0, 1.0f, 1.0f}, {5, 1.0f, 1.0f}};
+    } rows[] = {{BAR_TITLE, 1.0f, 1.0f},   {BAR_TOOLS, 1.0f, 1.0f}, {BAR_LIST, 0.26f, 1.35f},
+                {BAR_PANEL, 0.26f, 0.91f}, {0, 1.0f, 1.0f},         {5, 1.0f, 1.0f}};
     for (const auto& row : rows)
     {
         SCOPED_TRACE(row.type);

@@ -11,8 +11,8 @@ namespace host
 struct CameraPose
 {
     osg::Vec3d target;
-    double heading = 0.0;   ///< of the view, counter-clockwise from north (y)
-    double pitch = 0.5;     ///< of the view below the horizon
+    double heading = 0.0; ///< of the view, counter-clockwise from north (y)
+    double pitch = 0.5;   ///< of the view below the horizon
     double distance = 1000.0;
 
     static CameraPose Between(const osg::Vec3d& eye, const osg::Vec3d& target);

@@ -45,7 +45,7 @@ private:
     CameraPose wanted_;
     double reach_;
     CameraPose flightStart_;
-    double flightSeconds_ = 0.0;  ///< 0: not flying
+    double flightSeconds_ = 0.0; ///< 0: not flying
     double flightClock_ = 0.0;
     bool rotating_ = false;
 };

@@ -26,7 +26,7 @@ private:
     city::RoamPath path_;
     OrbitCamera& camera_;
     bool running_ = false;
-    double at_ = 0.0;  ///< in turns of the path
+    double at_ = 0.0; ///< in turns of the path
 };
 
 } // namespace host

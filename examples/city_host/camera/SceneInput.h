@@ -54,8 +54,8 @@ private:
     SceneEvents& events_;
     Drag drag_ = Drag::None;
     bool overInterface_ = false;
-    bool isClick_ = false;  ///< the button that is down has not left its place
-    CPoint mouse_ = CPoint(-1, -1);  ///< at the last move
+    bool isClick_ = false;          ///< the button that is down has not left its place
+    CPoint mouse_ = CPoint(-1, -1); ///< at the last move
     CPoint pressed_;
     float lastX_ = 0.0f;
     float lastY_ = 0.0f;

@@ -11,10 +11,10 @@ namespace
 {
 
 constexpr int kPieces = 12;
-constexpr double kRise = 3.0;      ///< of the deck's middle over its ends
+constexpr double kRise = 3.0; ///< of the deck's middle over its ends
 constexpr double kDeckDepth = 1.4;
 constexpr double kSidewalk = 3.2;
-constexpr double kAnchor = 2.0;    ///< how far the deck lies on the banks
+constexpr double kAnchor = 2.0; ///< how far the deck lies on the banks
 constexpr int kMiddleStreet = 9;
 constexpr double kPi = 3.14159265358979;
 
@@ -38,11 +38,13 @@ struct Span
 void AddDeck(Site& site, const Span& span)
 {
     Mesh& mesh = site.meshes.At(Surface::Plain, {span.x, (span.south + span.north) / 2});
-    const auto band = [&](double left, double right, double t0, double t1, double lift, const Colour& colour) {
+    const auto band = [&](double left, double right, double t0, double t1, double lift, const Colour& colour)
+    {
         mesh.Quad({span.At(left, t0, lift), {}, colour}, {span.At(right, t0, lift), {}, colour},
                   {span.At(right, t1, lift), {}, colour}, {span.At(left, t1, lift), {}, colour});
     };
-    const auto side = [&](double across, double t0, double t1, double bottom, double top, const Colour& colour) {
+    const auto side = [&](double across, double t0, double t1, double bottom, double top, const Colour& colour)
+    {
         const double from = across > 0.0 ? t0 : t1, to = across > 0.0 ? t1 : t0;
         mesh.Quad({span.At(across, from, bottom), {}, colour * 0.85f}, {span.At(across, to, bottom), {}, colour * 0.85f},
                   {span.At(across, to, top), {}, colour}, {span.At(across, from, top), {}, colour});
@@ -61,8 +63,10 @@ void AddDeck(Site& site, const Span& span)
             band(s > 0 ? span.half - 0.3 : -span.half, s > 0 ? span.half : 0.3 - span.half, t0, t1, 1.3, kGirder * 1.05f);
         }
         // The underside, and one dash of the middle line.
-        mesh.Quad({span.At(span.half, t0, -kDeckDepth), {}, kGirder * 0.5f}, {span.At(-span.half, t0, -kDeckDepth), {}, kGirder * 0.5f},
-                  {span.At(-span.half, t1, -kDeckDepth), {}, kGirder * 0.5f}, {span.At(span.half, t1, -kDeckDepth), {}, kGirder * 0.5f});
+        mesh.Quad({span.At(span.half, t0, -kDeckDepth), {}, kGirder * 0.5f},
+                  {span.At(-span.half, t0, -kDeckDepth), {}, kGirder * 0.5f},
+                  {span.At(-span.half, t1, -kDeckDepth), {}, kGirder * 0.5f},
+                  {span.At(span.half, t1, -kDeckDepth), {}, kGirder * 0.5f});
         band(-0.15, 0.15, t0 + 0.02, t0 + 0.055, 0.06, kMark);
     }
     for (const double t : {0.28, 0.72})

@@ -52,8 +52,8 @@ struct Building
     Label address;
     Label designOffice;
     Label structure;
-    double northing = 0.0;   ///< survey coordinate X, which counts northwards
-    double easting = 0.0;    ///< survey coordinate Y
+    double northing = 0.0; ///< survey coordinate X, which counts northwards
+    double easting = 0.0;  ///< survey coordinate Y
 };
 
 } // namespace city

@@ -71,7 +71,8 @@ Lattice::Lattice(Random& random, int cells) : m_cells(cells)
 
 double Lattice::At(double u, double v) const
 {
-    const auto value = [this](int x, int y) {
+    const auto value = [this](int x, int y)
+    {
         const int column = ((x % m_cells) + m_cells) % m_cells;
         const int row = ((y % m_cells) + m_cells) % m_cells;
         return m_values[static_cast<std::size_t>(row) * m_cells + column];

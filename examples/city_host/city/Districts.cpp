@@ -34,13 +34,20 @@ Raster RasterOf(Zone zone)
 {
     switch (zone)
     {
-    case Zone::Business: return {42.0, 42.0, 18.0, 18.0, 5.0};
-    case Zone::Commerce: return {44.0, 34.0, 14.0, 16.0, 3.0};
-    case Zone::Towers: return {25.0, 23.0, 26.0, 30.0, 8.0};
-    case Zone::Slabs: return {46.0, 13.0, 13.0, 21.0, 4.0};
-    case Zone::OldTown: return {14.5, 9.5, 3.0, 6.5, 1.0};
-    case Zone::School: return {44.0, 15.0, 16.0, 60.0, 6.0};
-    default: return {48.0, 38.0, 14.0, 16.0, 4.0};
+    case Zone::Business:
+        return {42.0, 42.0, 18.0, 18.0, 5.0};
+    case Zone::Commerce:
+        return {44.0, 34.0, 14.0, 16.0, 3.0};
+    case Zone::Towers:
+        return {25.0, 23.0, 26.0, 30.0, 8.0};
+    case Zone::Slabs:
+        return {46.0, 13.0, 13.0, 21.0, 4.0};
+    case Zone::OldTown:
+        return {14.5, 9.5, 3.0, 6.5, 1.0};
+    case Zone::School:
+        return {44.0, 15.0, 16.0, 60.0, 6.0};
+    default:
+        return {48.0, 38.0, 14.0, 16.0, 4.0};
     }
 }
 
@@ -49,13 +56,19 @@ Colour LotColour(Zone zone)
     switch (zone)
     {
     case Zone::Business:
-    case Zone::Landmark: return kPlaza;
-    case Zone::Commerce: return kPlaza * 0.97f;
+    case Zone::Landmark:
+        return kPlaza;
+    case Zone::Commerce:
+        return kPlaza * 0.97f;
     case Zone::OldTown:
-    case Zone::Pagoda: return kOldPaving;
-    case Zone::Works: return kWorksYard;
-    case Zone::Slabs: return kYard;
-    default: return kGrass;
+    case Zone::Pagoda:
+        return kOldPaving;
+    case Zone::Works:
+        return kWorksYard;
+    case Zone::Slabs:
+        return kYard;
+    default:
+        return kGrass;
     }
 }
 
@@ -64,10 +77,14 @@ Use UseOf(Zone zone)
     switch (zone)
     {
     case Zone::Towers:
-    case Zone::Slabs: return Use::Residential;
-    case Zone::OldTown: return Use::OldTown;
-    case Zone::Works: return Use::Industrial;
-    default: return Use::Office;
+    case Zone::Slabs:
+        return Use::Residential;
+    case Zone::OldTown:
+        return Use::OldTown;
+    case Zone::Works:
+        return Use::Industrial;
+    default:
+        return Use::Office;
     }
 }
 
@@ -82,9 +99,8 @@ std::vector<Polygon> MakeLots(const Polygon& ground, double angle, const Raster&
         low.set(std::min(low.x(), p.x()), std::min(low.y(), p.y()));
         high.set(std::max(high.x(), p.x()), std::max(high.y(), p.y()));
     }
-    const auto count = [](double length, double size, double gap) {
-        return std::max(1, static_cast<int>((length + gap) / (size + gap)));
-    };
+    const auto count = [](double length, double size, double gap)
+    { return std::max(1, static_cast<int>((length + gap) / (size + gap))); };
     const int columns = count(high.x() - low.x(), raster.width, raster.gapX);
     const int rows = count(high.y() - low.y(), raster.depth, raster.gapY);
     const double width = std::min(raster.width * 1.35, (high.x() - low.x() - (columns - 1) * raster.gapX) / columns);
@@ -122,9 +138,15 @@ void FillLot(Site& site, const Block& block, const Polygon& lot, int style, int 
         else
             PlantGrove(site, lot, 10);
         break;
-    case Zone::Commerce: BuildCommerce(site, lot, plot); break;
-    case Zone::Towers: BuildApartmentTower(site, lot, floors + 14 + site.random.Whole(-1, 1) * 2, style, plot); break;
-    case Zone::Slabs: BuildSlab(site, lot, floors, style, plot); break;
+    case Zone::Commerce:
+        BuildCommerce(site, lot, plot);
+        break;
+    case Zone::Towers:
+        BuildApartmentTower(site, lot, floors + 14 + site.random.Whole(-1, 1) * 2, style, plot);
+        break;
+    case Zone::Slabs:
+        BuildSlab(site, lot, floors, style, plot);
+        break;
     case Zone::OldTown:
         if (site.random.Chance(0.86))
         {
@@ -137,9 +159,14 @@ void FillLot(Site& site, const Block& block, const Polygon& lot, int style, int 
         else
             PlantGrove(site, lot, 2);
         break;
-    case Zone::Works: BuildWorks(site, lot, plot); break;
-    case Zone::School: BuildSchool(site, lot, plot); break;
-    default: break;
+    case Zone::Works:
+        BuildWorks(site, lot, plot);
+        break;
+    case Zone::School:
+        BuildSchool(site, lot, plot);
+        break;
+    default:
+        break;
     }
 }
 
@@ -191,12 +218,24 @@ void BuildDistricts(Site& site)
         AddFlat(site, lot, kLotHeight, Surface::Lot, island ? kGrass : LotColour(block.zone));
         switch (block.zone)
         {
-        case Zone::Park: BuildPark(site, lot); break;
-        case Zone::Stadium: BuildStadium(site, lot); break;
-        case Zone::Landmark: BuildLandmark(site, lot); break;
-        case Zone::Pagoda: BuildPagoda(site, lot); break;
-        case Zone::Hall: BuildHall(site, lot); break;
-        default: BuildLots(site, block, lot); break;
+        case Zone::Park:
+            BuildPark(site, lot);
+            break;
+        case Zone::Stadium:
+            BuildStadium(site, lot);
+            break;
+        case Zone::Landmark:
+            BuildLandmark(site, lot);
+            break;
+        case Zone::Pagoda:
+            BuildPagoda(site, lot);
+            break;
+        case Zone::Hall:
+            BuildHall(site, lot);
+            break;
+        default:
+            BuildLots(site, block, lot);
+            break;
         }
         PlantStreetTrees(site, block.outline);
     }

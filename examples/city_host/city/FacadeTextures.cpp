@@ -21,34 +21,153 @@ struct Style
     FacadeModule module;
     Colour wall, glass, frame;
     int left, bottom, right, top;
-    int mullions;        ///< upright bars that divide the window
-    int band;            ///< height of the band below the next floor, pixels
+    int mullions; ///< upright bars that divide the window
+    int band;     ///< height of the band below the next floor, pixels
     Colour bandColour;
-    bool balconies;      ///< in every other bay
-    float lightFactor;   ///< of the lights at night
-    bool lit;            ///< every window of a lit floor, as offices have it
+    bool balconies;    ///< in every other bay
+    float lightFactor; ///< of the lights at night
+    bool lit;          ///< every window of a lit floor, as offices have it
 };
 
+// clang-format off: a table
 const std::array<Style, static_cast<std::size_t>(kLastFacade) + 1> kStyles = {{
     // cream
-    {{3.4, 3.0}, {.96f, .94f, .90f}, {.56f, .63f, .69f}, {.86f, .85f, .82f}, 14, 16, 50, 52, 1, 5, {.88f, .85f, .80f}, true, 1.0f, false},
+    {{3.4, 3.0},
+     {.96f, .94f, .90f},
+     {.56f, .63f, .69f},
+     {.86f, .85f, .82f},
+     14,
+     16,
+     50,
+     52,
+     1,
+     5,
+     {.88f, .85f, .80f},
+     true,
+     1.0f,
+     false},
     // brick
-    {{3.6, 3.1}, {.93f, .90f, .87f}, {.53f, .59f, .64f}, {.98f, .97f, .95f}, 18, 14, 46, 52, 1, 4, {.99f, .98f, .96f}, false, 1.0f, false},
+    {{3.6, 3.1},
+     {.93f, .90f, .87f},
+     {.53f, .59f, .64f},
+     {.98f, .97f, .95f},
+     18,
+     14,
+     46,
+     52,
+     1,
+     4,
+     {.99f, .98f, .96f},
+     false,
+     1.0f,
+     false},
     // white
-    {{3.2, 3.0}, {.97f, .97f, .96f}, {.56f, .64f, .71f}, {.80f, .82f, .84f}, 6, 14, 58, 54, 2, 6, {.82f, .84f, .85f}, true, 0.9f, false},
+    {{3.2, 3.0},
+     {.97f, .97f, .96f},
+     {.56f, .64f, .71f},
+     {.80f, .82f, .84f},
+     6,
+     14,
+     58,
+     54,
+     2,
+     6,
+     {.82f, .84f, .85f},
+     true,
+     0.9f,
+     false},
     // blue glass
-    {{3.0, 4.0}, {.70f, .77f, .82f}, {.64f, .73f, .80f}, {.80f, .86f, .90f}, 2, 12, 62, 62, 0, 4, {.84f, .89f, .93f}, false, 0.75f, true},
+    {{3.0, 4.0},
+     {.70f, .77f, .82f},
+     {.64f, .73f, .80f},
+     {.80f, .86f, .90f},
+     2,
+     12,
+     62,
+     62,
+     0,
+     4,
+     {.84f, .89f, .93f},
+     false,
+     0.75f,
+     true},
     // grey glass
-    {{3.0, 4.0}, {.74f, .77f, .78f}, {.50f, .59f, .63f}, {.86f, .88f, .88f}, 0, 20, 64, 60, 1, 8, {.90f, .91f, .90f}, false, 0.75f, true},
+    {{3.0, 4.0},
+     {.74f, .77f, .78f},
+     {.50f, .59f, .63f},
+     {.86f, .88f, .88f},
+     0,
+     20,
+     64,
+     60,
+     1,
+     8,
+     {.90f, .91f, .90f},
+     false,
+     0.75f,
+     true},
     // stone
-    {{3.6, 3.8}, {.95f, .93f, .89f}, {.49f, .56f, .62f}, {.80f, .78f, .74f}, 16, 8, 48, 54, 1, 3, {.86f, .83f, .78f}, false, 0.9f, true},
+    {{3.6, 3.8},
+     {.95f, .93f, .89f},
+     {.49f, .56f, .62f},
+     {.80f, .78f, .74f},
+     16,
+     8,
+     48,
+     54,
+     1,
+     3,
+     {.86f, .83f, .78f},
+     false,
+     0.9f,
+     true},
     // shop
-    {{6.0, 4.5}, {.90f, .87f, .83f}, {.46f, .54f, .58f}, {.94f, .93f, .90f}, 5, 4, 59, 42, 2, 6, {.80f, .77f, .72f}, false, 1.25f, false},
+    {{6.0, 4.5},
+     {.90f, .87f, .83f},
+     {.46f, .54f, .58f},
+     {.94f, .93f, .90f},
+     5,
+     4,
+     59,
+     42,
+     2,
+     6,
+     {.80f, .77f, .72f},
+     false,
+     1.25f,
+     false},
     // old town
-    {{3.6, 3.2}, {.97f, .95f, .91f}, {.36f, .33f, .30f}, {.50f, .38f, .28f}, 20, 14, 44, 44, 2, 4, {.60f, .48f, .38f}, false, 1.1f, false},
+    {{3.6, 3.2},
+     {.97f, .95f, .91f},
+     {.36f, .33f, .30f},
+     {.50f, .38f, .28f},
+     20,
+     14,
+     44,
+     44,
+     2,
+     4,
+     {.60f, .48f, .38f},
+     false,
+     1.1f,
+     false},
     // fins
-    {{2.4, 4.2}, {.82f, .87f, .91f}, {.62f, .72f, .80f}, {.95f, .97f, .98f}, 14, 8, 64, 64, 0, 0, {.9f, .93f, .95f}, false, 0.85f, true},
+    {{2.4, 4.2},
+     {.82f, .87f, .91f},
+     {.62f, .72f, .80f},
+     {.95f, .97f, .98f},
+     14,
+     8,
+     64,
+     64,
+     0,
+     0,
+     {.9f, .93f, .95f},
+     false,
+     0.85f,
+     true},
 }};
+// clang-format on
 
 const Style& StyleOf(Surface facade)
 {

@@ -40,7 +40,8 @@ Canvas PaintRoad(Random& random)
     canvas.Clouds(random, 32, 0.03f);
     canvas.Grain(random, 0.03f);
     const Colour line(1.55f, 1.53f, 1.45f);
-    const auto upright = [&](double place, int width, int from, int to) {
+    const auto upright = [&](double place, int width, int from, int to)
+    {
         const int x = static_cast<int>(place * kPicture) - width / 2;
         canvas.Rectangle(x, from, x + width, to, line);
     };
@@ -102,17 +103,26 @@ double PictureSize(Surface surface)
 {
     switch (surface)
     {
-    case Surface::Roof: return 18.0;
-    case Surface::Tiles: return 6.0;
-    case Surface::Pavement: return 8.0;
-    case Surface::Road: return 24.0;
-    case Surface::Base: return 30.0;
-    case Surface::Land: return 620.0;
+    case Surface::Roof:
+        return 18.0;
+    case Surface::Tiles:
+        return 6.0;
+    case Surface::Pavement:
+        return 8.0;
+    case Surface::Road:
+        return 24.0;
+    case Surface::Base:
+        return 30.0;
+    case Surface::Land:
+        return 620.0;
     case Surface::Inlay:
-    case Surface::Lot: return 40.0;
+    case Surface::Lot:
+        return 40.0;
     case Surface::Pond:
-    case Surface::Water: return 110.0;
-    default: return 10.0;
+    case Surface::Water:
+        return 110.0;
+    default:
+        return 10.0;
     }
 }
 
@@ -133,17 +143,27 @@ osg::ref_ptr<osg::Image> PaintGround(Surface surface)
         Joints(canvas, 16, 0.90f);
         return canvas.Image();
     }
-    case Surface::Foliage: return PaintTree();
-    case Surface::Inlay: return Mottled(random, 0.04f, 0.02f).Image();
-    case Surface::Lot: return Mottled(random, 0.06f, 0.03f).Image();
-    case Surface::Land: return Mottled(random, 0.06f, 0.02f).Image();
-    case Surface::Base: return Mottled(random, 0.03f, 0.03f).Image();
-    case Surface::Road: return PaintRoad(random).Image();
-    case Surface::Zebra: return PaintZebra().Image();
-    case Surface::Tiles: return PaintTiles(random).Image();
+    case Surface::Foliage:
+        return PaintTree();
+    case Surface::Inlay:
+        return Mottled(random, 0.04f, 0.02f).Image();
+    case Surface::Lot:
+        return Mottled(random, 0.06f, 0.03f).Image();
+    case Surface::Land:
+        return Mottled(random, 0.06f, 0.02f).Image();
+    case Surface::Base:
+        return Mottled(random, 0.03f, 0.03f).Image();
+    case Surface::Road:
+        return PaintRoad(random).Image();
+    case Surface::Zebra:
+        return PaintZebra().Image();
+    case Surface::Tiles:
+        return PaintTiles(random).Image();
     case Surface::Pond:
-    case Surface::Water: return PaintWater(random).Image();
-    default: return nullptr;
+    case Surface::Water:
+        return PaintWater(random).Image();
+    default:
+        return nullptr;
     }
 }
 

@@ -39,8 +39,8 @@ Polygon RoundedSquare(const osg::Vec2d& centre, double half, double turn)
 }
 
 /// A band between two rings of equally many corners at different heights, seen from above or from outside.
-void AddBand(Site& site, const Polygon& lower, double bottom, const Polygon& upper, double top, Surface surface,
-             const Colour& a, const Colour& b)
+void AddBand(Site& site, const Polygon& lower, double bottom, const Polygon& upper, double top, Surface surface, const Colour& a,
+             const Colour& b)
 {
     Mesh& mesh = site.meshes.At(surface, Centre(lower));
     for (std::size_t i = 0; i < lower.size(); ++i)
@@ -71,7 +71,8 @@ void BuildLandmark(Site& site, const Polygon& ground)
     // A wide podium, then a shaft that swells, tapers and turns on its way up.
     const Polygon podium = RoundedSquare(centre, 38.0, 0.0);
     AddBlockBody(site, podium, 0.0, 13.5, {Surface::FacadeShop, kStone}, kStone * 0.95f);
-    const auto ring = [&](int stage) {
+    const auto ring = [&](int stage)
+    {
         const double t = static_cast<double>(stage) / kStages;
         const double half = 24.5 * (1.0 + 0.10 * std::sin(kPi * std::min(1.0, t * 1.8))) * (1.0 - 0.48 * t * t);
         return RoundedSquare(centre, half, t * kPi / 5.0);
@@ -123,7 +124,8 @@ void BuildStadium(Site& site, const Polygon& ground)
     {
         const int next = (i + 1) % kSides;
         site.casters.push_back({{inner[i], outer[i], outer[next], inner[next]}, kEave - 4.0, kEave + 4.0});
-        site.casters.push_back({{foot[i] * 0.98 + centre * 0.02, foot[i], foot[next], foot[next] * 0.98 + centre * 0.02}, 0.0, kEave});
+        site.casters.push_back(
+            {{foot[i] * 0.98 + centre * 0.02, foot[i], foot[next], foot[next] * 0.98 + centre * 0.02}, 0.0, kEave});
     }
     PlantYard(site, ground, {oval(120.0, 106.0)}, 130);
     Building& stadium = Enter(site, Use::Sport, oval(100.0, 86.0), kRim, 4, MakePlot(site, Area(ground), Use::Sport));
@@ -169,7 +171,8 @@ void BuildHall(Site& site, const Polygon& ground)
     const osg::Vec2d centre = Centre(ground);
     // Two shells on a wide terrace: each a row of arches that falls towards its ends.
     AddBox(site, Ellipse(centre, 52.0, 40.0, 28), 0.0, 2.0, kStone);
-    const auto shell = [&](const osg::Vec2d& middle, double length, double width, double height) {
+    const auto shell = [&](const osg::Vec2d& middle, double length, double width, double height)
+    {
         constexpr int kAlong = 12, kAcross = 10;
         Mesh& mesh = site.meshes.At(Surface::Plain, middle);
         unsigned grid[kAlong + 1][kAcross + 1];
@@ -197,8 +200,8 @@ void BuildHall(Site& site, const Polygon& ground)
     shell(centre + osg::Vec2d(-8.0, 5.0), 36.0, 19.0, 24.0);
     shell(centre + osg::Vec2d(16.0, -12.0), 26.0, 14.0, 16.0);
     PlantYard(site, ground, {Ellipse(centre, 56.0, 44.0, 28)}, 24);
-    Building& hall = Enter(site, Use::Culture, Ellipse(centre, 52.0, 40.0, 28), 26.0, 3,
-                           MakePlot(site, Area(ground), Use::Culture));
+    Building& hall =
+        Enter(site, Use::Culture, Ellipse(centre, 52.0, 40.0, 28), 26.0, 3, MakePlot(site, Area(ground), Use::Culture));
     Name(hall, "江畔音乐厅", "Riverbank Concert Hall");
     hall.year = 2017;
 }

@@ -12,11 +12,11 @@ namespace
 
 constexpr int kPixels = 2048;
 constexpr int kCoarse = 512;
-constexpr int kMargin = 10;             ///< pixels at the edge that stay open: the ground beyond repeats them
+constexpr int kMargin = 10; ///< pixels at the edge that stay open: the ground beyond repeats them
 constexpr double kPixelsPerMetre = kPixels / LightMap::kSize;
 constexpr double kLongestShadow = 700.0; ///< metres
 constexpr float kDeepestShade = 0.42f;
-constexpr double kCrownBottom = 0.3;     ///< of a tree's height
+constexpr double kCrownBottom = 0.3; ///< of a tree's height
 
 using Raster = std::vector<std::uint8_t>;
 
@@ -140,8 +140,7 @@ LightMap::LightMap(const std::vector<Caster>& casters, const std::vector<Tree>& 
     for (const std::uint8_t value : built)
         m_openness.push_back(1.0f - std::min(kDeepestShade, kDeepestShade * 1.25f * value / 255.0f));
     for (const Tree& tree : trees)
-        m_casters.push_back({Ellipse(tree.place, tree.radius, tree.radius, 8), tree.height * kCrownBottom,
-                             tree.height * 0.85});
+        m_casters.push_back({Ellipse(tree.place, tree.radius, tree.radius, 8), tree.height * kCrownBottom, tree.height * 0.85});
 }
 
 osg::ref_ptr<osg::Image> LightMap::Paint(const Daylight& light) const
@@ -150,8 +149,10 @@ osg::ref_ptr<osg::Image> LightMap::Paint(const Daylight& light) const
     const std::vector<Colour> pools = PaintLamps(m_lamps, light.lamps);
     osg::ref_ptr<osg::Image> image = new osg::Image;
     image->allocateImage(kPixels, kPixels, 1, GL_RGB, GL_UNSIGNED_BYTE);
-    const auto openness = [this](int x, int y) {
-        const double u = std::max(0.0, (x + 0.5) * kCoarse / kPixels - 0.5), v = std::max(0.0, (y + 0.5) * kCoarse / kPixels - 0.5);
+    const auto openness = [this](int x, int y)
+    {
+        const double u = std::max(0.0, (x + 0.5) * kCoarse / kPixels - 0.5),
+                     v = std::max(0.0, (y + 0.5) * kCoarse / kPixels - 0.5);
         const int column = std::min(kCoarse - 2, static_cast<int>(u)), row = std::min(kCoarse - 2, static_cast<int>(v));
         const float s = static_cast<float>(u - column), t = static_cast<float>(v - row);
         const float* const at = m_openness.data() + static_cast<std::size_t>(row) * kCoarse + column;

@@ -15,9 +15,7 @@ constexpr int kRasterHalf = 2;
 
 osg::Vec4ub Bytes(const Colour& colour)
 {
-    const auto byte = [](float v) {
-        return static_cast<unsigned char>(std::min(1.0f, std::max(0.0f, v)) * 255.0f + 0.5f);
-    };
+    const auto byte = [](float v) { return static_cast<unsigned char>(std::min(1.0f, std::max(0.0f, v)) * 255.0f + 0.5f); };
     return {byte(colour.x()), byte(colour.y()), byte(colour.z()), 255};
 }
 
@@ -86,8 +84,7 @@ osg::ref_ptr<osg::Geometry> Mesh::Build(bool lightUnit) const
     geometry->setTexCoordArray(kPictureUnit, textures.get(), osg::Array::BIND_PER_VERTEX);
     if (lightUnit)
         geometry->setTexCoordArray(kLightUnit, textures.get(), osg::Array::BIND_PER_VERTEX);
-    osg::ref_ptr<osg::DrawElementsUInt> triangles =
-        new osg::DrawElementsUInt(GL_TRIANGLES, m_indices.begin(), m_indices.end());
+    osg::ref_ptr<osg::DrawElementsUInt> triangles = new osg::DrawElementsUInt(GL_TRIANGLES, m_indices.begin(), m_indices.end());
     geometry->addPrimitiveSet(triangles.get());
     return geometry;
 }

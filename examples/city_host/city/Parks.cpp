@@ -15,7 +15,7 @@ namespace
 constexpr double kStreetTreesWithin = 540.0; ///< from the centre, metres
 constexpr double kStreetTreeStep = 17.0;
 constexpr double kCrownsWithin = 620.0; ///< further out a tree is not seen from straight above
-constexpr double kCrownLevel = 0.6; ///< of the height: where the crown is widest
+constexpr double kCrownLevel = 0.6;     ///< of the height: where the crown is widest
 
 const Colour kPath(.88f, .83f, .74f);
 const Colour kPond(.62f, .72f, .74f);
@@ -23,8 +23,7 @@ const Colour kLawn(.66f, .71f, .52f);
 const Colour kTrack(.78f, .52f, .42f);
 const Colour kPitch(.52f, .64f, .40f);
 const Colour kLine(.95f, .95f, .92f);
-const Colour kFoliage[] = {{.50f, .60f, .36f}, {.56f, .63f, .38f}, {.46f, .56f, .37f}, {.62f, .65f, .40f},
-                           {.70f, .64f, .40f}};
+const Colour kFoliage[] = {{.50f, .60f, .36f}, {.56f, .63f, .38f}, {.46f, .56f, .37f}, {.62f, .65f, .40f}, {.70f, .64f, .40f}};
 
 Tree MakeTree(Site& site, const osg::Vec2d& place)
 {
@@ -77,12 +76,16 @@ void PlantLawns(Site& site, const Polygon& ground, const std::vector<Polygon>& l
 {
     const osg::Vec2d centre = Centre(ground);
     std::vector<Polygon> taken = lots;
-    const auto lay = [&](const osg::Vec2d& place, const osg::Vec2d& size, double angle) {
+    const auto lay = [&](const osg::Vec2d& place, const osg::Vec2d& size, double angle)
+    {
         const Polygon lawn = Rectangle(place, size, angle);
-        const bool free = std::none_of(taken.begin(), taken.end(), [&](const Polygon& other) {
-            return std::any_of(lawn.begin(), lawn.end(), [&](const osg::Vec2d& p) { return Contains(other, p, 2.0); }) ||
-                   std::any_of(other.begin(), other.end(), [&](const osg::Vec2d& p) { return Contains(lawn, p, 2.0); });
-        });
+        const bool free = std::none_of(
+            taken.begin(), taken.end(),
+            [&](const Polygon& other)
+            {
+                return std::any_of(lawn.begin(), lawn.end(), [&](const osg::Vec2d& p) { return Contains(other, p, 2.0); }) ||
+                       std::any_of(other.begin(), other.end(), [&](const osg::Vec2d& p) { return Contains(lawn, p, 2.0); });
+            });
         if (!free || !ContainsAll(ground, lawn))
             return;
         AddFlat(site, lawn, kLotHeight + 0.15, Surface::Inlay, kLawn);
@@ -138,7 +141,8 @@ void BuildPark(Site& site, const Polygon& ground)
         AddFlat(site, shore, height + 0.15, Surface::Pond, kPond);
         kept.push_back(Scaled(shore, pond, 1.14));
         // Paths lead from the shore to the edges.
-        const auto path = [&](const osg::Vec2d& from, const osg::Vec2d& to) {
+        const auto path = [&](const osg::Vec2d& from, const osg::Vec2d& to)
+        {
             const osg::Vec2d along = to - from;
             const Polygon strip = Rectangle((from + to) / 2.0, {along.length(), 4.0}, std::atan2(along.y(), along.x()));
             AddFlat(site, strip, height - 0.08, Surface::Inlay, kPath);

@@ -24,10 +24,9 @@ struct SiteRange
 };
 
 constexpr SiteRange kSites[] = {
-    {10, 13, 12, 14, Zone::Park},   {13, 3, 14, 4, Zone::Stadium}, {10, 8, 10, 8, Zone::Landmark},
-    {4, 7, 4, 7, Zone::Pagoda},     {6, 11, 6, 11, Zone::School},  {11, 5, 11, 5, Zone::Hall},
-    {5, 3, 6, 3, Zone::Park},       {2, 13, 2, 13, Zone::Park},    {15, 10, 15, 10, Zone::School},
-    {9, 4, 9, 4, Zone::School},     {14, 8, 14, 8, Zone::Park},    {8, 5, 8, 5, Zone::Park},
+    {10, 13, 12, 14, Zone::Park},   {13, 3, 14, 4, Zone::Stadium}, {10, 8, 10, 8, Zone::Landmark}, {4, 7, 4, 7, Zone::Pagoda},
+    {6, 11, 6, 11, Zone::School},   {11, 5, 11, 5, Zone::Hall},    {5, 3, 6, 3, Zone::Park},       {2, 13, 2, 13, Zone::Park},
+    {15, 10, 15, 10, Zone::School}, {9, 4, 9, 4, Zone::School},    {14, 8, 14, 8, Zone::Park},     {8, 5, 8, 5, Zone::Park},
 };
 
 const SiteRange* SiteAt(int column, int row)
@@ -91,8 +90,7 @@ std::vector<Polygon> OutsideStrip(const std::vector<Polygon>& shapes, const Line
         outside.push_back(ClipLeft(shape, line.point + left * half, line.direction));
         outside.push_back(ClipLeft(shape, line.point - left * half, -line.direction));
     }
-    outside.erase(std::remove_if(outside.begin(), outside.end(), [](const Polygon& p) { return Area(p) < 1.0; }),
-                  outside.end());
+    outside.erase(std::remove_if(outside.begin(), outside.end(), [](const Polygon& p) { return Area(p) < 1.0; }), outside.end());
     return outside;
 }
 
@@ -144,7 +142,8 @@ bool WithinSite(int columnA, int rowA, int columnB, int rowB)
 
 void AddRoads(Plan& plan)
 {
-    const auto strip = [&](const Polygon& shape, int column, double margin, std::vector<Polygon>& out) {
+    const auto strip = [&](const Polygon& shape, int column, double margin, std::vector<Polygon>& out)
+    {
         for (const Polygon& piece : Dry(plan, shape, column, margin))
             out.push_back(piece);
     };

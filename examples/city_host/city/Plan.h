@@ -11,10 +11,10 @@ namespace city
 
 /// Streets in each direction; there is one block less.
 constexpr int kStreets = 19;
-constexpr double kCityHalf = 1350.0;  ///< metres from the origin to the outermost street
+constexpr double kCityHalf = 1350.0; ///< metres from the origin to the outermost street
 constexpr double kRiverHalf = 75.0;
-constexpr double kPromenade = 10.0;   ///< width of the walk along the water
-constexpr double kQuay = 24.0;        ///< from the water to the first block
+constexpr double kPromenade = 10.0; ///< width of the walk along the water
+constexpr double kQuay = 24.0;      ///< from the water to the first block
 constexpr double kWaterLevel = -3.5;
 constexpr double kPavementHeight = 0.2;
 constexpr double kLotHeight = 0.3;
@@ -40,7 +40,7 @@ struct Block
 {
     Polygon outline; ///< to the kerb
     Zone zone;
-    double angle;    ///< of its buildings, radians
+    double angle; ///< of its buildings, radians
 };
 
 /// A street as the place and width of its middle line.
@@ -56,7 +56,7 @@ struct Plan
     std::vector<Street> northSouth; ///< place is x
     std::vector<Street> eastWest;   ///< place is y
     std::vector<Block> blocks;
-    std::vector<Polygon> roads;     ///< strips with lane markings, streets along y
+    std::vector<Polygon> roads;       ///< strips with lane markings, streets along y
     std::vector<Polygon> roadsAcross; ///< streets along x
     std::vector<Polygon> zebras, zebrasAcross;
     Polygon avenue;

@@ -86,7 +86,8 @@ Polygon ConvexHull(std::vector<osg::Vec2d> points)
 {
     std::sort(points.begin(), points.end());
     Polygon hull;
-    const auto extend = [&hull](const osg::Vec2d& p, std::size_t from) {
+    const auto extend = [&hull](const osg::Vec2d& p, std::size_t from)
+    {
         while (hull.size() >= from + 2 && Cross(hull.back() - hull[hull.size() - 2], p - hull.back()) <= 0.0)
             hull.pop_back();
         hull.push_back(p);
@@ -127,8 +128,8 @@ Polygon Rectangle(double x0, double y0, double x1, double y1)
 Polygon Rectangle(const osg::Vec2d& centre, const osg::Vec2d& size, double angle)
 {
     const osg::Vec2d half = size / 2.0;
-    return Scaled(Rectangle(centre.x() - half.x(), centre.y() - half.y(), centre.x() + half.x(), centre.y() + half.y()),
-                  centre, 1.0, angle);
+    return Scaled(Rectangle(centre.x() - half.x(), centre.y() - half.y(), centre.x() + half.x(), centre.y() + half.y()), centre,
+                  1.0, angle);
 }
 
 Polygon Ellipse(const osg::Vec2d& centre, double radiusX, double radiusY, int corners)

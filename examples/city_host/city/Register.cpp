@@ -22,27 +22,33 @@ struct Words
     const char* en;
 };
 
-constexpr Words kPlaces[] = {{"临江", "Linjiang"}, {"云溪", "Yunxi"},   {"翠湖", "Cuihu"},   {"锦绣", "Jinxiu"},
-                             {"望江", "Wangjiang"}, {"和平", "Heping"},  {"朝阳", "Chaoyang"}, {"青石", "Qingshi"},
-                             {"梧桐", "Wutong"},   {"桂香", "Guixiang"}, {"月湾", "Yuewan"},  {"新桥", "Xinqiao"},
-                             {"东林", "Donglin"},  {"南浦", "Nanpu"},   {"白鹭", "Bailu"},   {"长乐", "Changle"}};
+constexpr Words kPlaces[] = {{"临江", "Linjiang"},  {"云溪", "Yunxi"},    {"翠湖", "Cuihu"},    {"锦绣", "Jinxiu"},
+                             {"望江", "Wangjiang"}, {"和平", "Heping"},   {"朝阳", "Chaoyang"}, {"青石", "Qingshi"},
+                             {"梧桐", "Wutong"},    {"桂香", "Guixiang"}, {"月湾", "Yuewan"},   {"新桥", "Xinqiao"},
+                             {"东林", "Donglin"},   {"南浦", "Nanpu"},    {"白鹭", "Bailu"},    {"长乐", "Changle"}};
 constexpr Words kEstates[] = {{"花园", "Garden"}, {"家园", "Homes"}, {"新苑", "Court"}, {"雅居", "Residence"}};
-constexpr Words kOffices[] = {{"大厦", "Tower"}, {"国际中心", "International Centre"}, {"金融大厦", "Finance Tower"},
-                              {"商务中心", "Business Centre"}};
+constexpr Words kOffices[] = {
+    {"大厦", "Tower"}, {"国际中心", "International Centre"}, {"金融大厦", "Finance Tower"}, {"商务中心", "Business Centre"}};
 constexpr Words kShops[] = {{"商场", "Mall"}, {"百货", "Store"}, {"生活广场", "Plaza"}, {"市集", "Market"}};
-constexpr Words kLanes[] = {{"青石巷", "Qingshi Lane"}, {"书院街", "Shuyuan Street"}, {"桂花弄", "Guihua Alley"},
-                            {"井亭里", "Jingting Lane"}, {"茶市街", "Chashi Street"}};
+constexpr Words kLanes[] = {{"青石巷", "Qingshi Lane"},
+                            {"书院街", "Shuyuan Street"},
+                            {"桂花弄", "Guihua Alley"},
+                            {"井亭里", "Jingting Lane"},
+                            {"茶市街", "Chashi Street"}};
 constexpr Words kWorks[] = {{"科技园", "Tech Park"}, {"物流中心", "Logistics Centre"}, {"创意工坊", "Workshop"}};
-constexpr Words kOwners[] = {{"滨江城投集团", "Riverside Urban Investment"}, {"云溪置业", "Yunxi Properties"},
-                             {"新城开发公司", "New Town Development"}, {"市公房管理中心", "Municipal Housing Office"},
+constexpr Words kOwners[] = {{"滨江城投集团", "Riverside Urban Investment"},
+                             {"云溪置业", "Yunxi Properties"},
+                             {"新城开发公司", "New Town Development"},
+                             {"市公房管理中心", "Municipal Housing Office"},
                              {"华岸实业", "Huaan Industries"}};
-constexpr Words kDesigners[] = {{"市建筑设计院", "Municipal Design Institute"}, {"江南设计事务所", "Jiangnan Architects"},
-                                {"大地规划设计", "Dadi Planning and Design"}, {"方圆建筑工作室", "Fangyuan Studio"}};
+constexpr Words kDesigners[] = {{"市建筑设计院", "Municipal Design Institute"},
+                                {"江南设计事务所", "Jiangnan Architects"},
+                                {"大地规划设计", "Dadi Planning and Design"},
+                                {"方圆建筑工作室", "Fangyuan Studio"}};
 
-const Words kUses[] = {{"住宅", "Residential"}, {"商业办公", "Office"},   {"商业零售", "Retail"},
-                       {"商住混合", "Mixed use"}, {"历史街区", "Old town"}, {"工业研发", "Industrial"},
-                       {"教育", "Education"},   {"文化", "Culture"},      {"体育", "Sport"},
-                       {"地标综合体", "Landmark"}};
+const Words kUses[] = {{"住宅", "Residential"},  {"商业办公", "Office"},     {"商业零售", "Retail"}, {"商住混合", "Mixed use"},
+                       {"历史街区", "Old town"}, {"工业研发", "Industrial"}, {"教育", "Education"},  {"文化", "Culture"},
+                       {"体育", "Sport"},        {"地标综合体", "Landmark"}};
 
 Label Structure(Use use, double height)
 {
@@ -68,15 +74,19 @@ Label NameOf(Site& site, Use use, const Plot& plot, int number)
     const Words& place = site.random.Pick(kPlaces);
     switch (use)
     {
-    case Use::Residential: return {plot.estateZh + " " + digits + " 号楼", plot.estateEn + " No. " + digits};
+    case Use::Residential:
+        return {plot.estateZh + " " + digits + " 号楼", plot.estateEn + " No. " + digits};
     case Use::OldTown:
     {
         const Words& lane = site.random.Pick(kLanes);
         return {std::string(lane.zh) + " " + digits + " 号", digits + " " + lane.en};
     }
-    case Use::Retail: return joined(place, site.random.Pick(kShops));
-    case Use::Industrial: return joined(place, site.random.Pick(kWorks));
-    case Use::Education: return joined(place, {"学校", "School"});
+    case Use::Retail:
+        return joined(place, site.random.Pick(kShops));
+    case Use::Industrial:
+        return joined(place, site.random.Pick(kWorks));
+    case Use::Education:
+        return joined(place, {"学校", "School"});
     default:
     {
         Label name = joined(place, site.random.Pick(kOffices));
@@ -103,8 +113,8 @@ Plot MakePlot(Site& site, double area, Use use)
     const Words& place = site.random.Pick(kPlaces);
     const Words& estate = site.random.Pick(kEstates);
     const bool homes = use == Use::Residential;
-    return {area, homes ? site.random.Range(0.30, 0.42) : site.random.Range(0.12, 0.31),
-            std::string(place.zh) + estate.zh, std::string(place.en) + " " + estate.en};
+    return {area, homes ? site.random.Range(0.30, 0.42) : site.random.Range(0.12, 0.31), std::string(place.zh) + estate.zh,
+            std::string(place.en) + " " + estate.en};
 }
 
 Building& Enter(Site& site, Use use, const Polygon& footprint, double height, int floors, const Plot& plot)

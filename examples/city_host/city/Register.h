@@ -9,8 +9,8 @@ namespace city
 /// The plot that a building stands on, for its ratios.
 struct Plot
 {
-    double area;       ///< m2
-    double greenRatio; ///< in [0, 1]
+    double area;                    ///< m2
+    double greenRatio;              ///< in [0, 1]
     std::string estateZh, estateEn; ///< the name that the buildings of one block share; may be empty
 };
 

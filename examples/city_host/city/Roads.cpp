@@ -18,17 +18,17 @@ constexpr double kZebrasWithin = 650.0; ///< from the centre, as the two others
 constexpr double kCarsWithin = 480.0;
 
 const Colour kAsphalt(.61f, .61f, .62f);
-const Colour kCars[] = {{.86f, .86f, .86f}, {.30f, .32f, .36f}, {.62f, .30f, .26f}, {.34f, .44f, .58f},
-                        {.78f, .74f, .66f}, {.92f, .91f, .88f}};
+const Colour kCars[] = {{.86f, .86f, .86f}, {.30f, .32f, .36f}, {.62f, .30f, .26f},
+                        {.34f, .44f, .58f}, {.78f, .74f, .66f}, {.92f, .91f, .88f}};
 const Colour kWindscreen(.28f, .33f, .38f);
 
 /// A strip with its picture across the road: `axis` is a point of the middle line, `along` its direction.
-void AddStrip(Site& site, const Polygon& shape, const osg::Vec2d& axis, const osg::Vec2d& along, double width,
-              Surface surface)
+void AddStrip(Site& site, const Polygon& shape, const osg::Vec2d& axis, const osg::Vec2d& along, double width, Surface surface)
 {
     Mesh& mesh = site.meshes.At(surface, Centre(shape));
     const osg::Vec2d right(along.y(), -along.x());
-    const auto corner = [&](const osg::Vec2d& p) {
+    const auto corner = [&](const osg::Vec2d& p)
+    {
         const osg::Vec2d d = p - axis;
         return Corner{{p.x(), p.y(), 0.0}, {(d * right) / width + 0.5, (d * along) / PictureSize(Surface::Road)}, kAsphalt};
     };
@@ -38,9 +38,9 @@ void AddStrip(Site& site, const Polygon& shape, const osg::Vec2d& axis, const os
 
 const Street& Nearest(const std::vector<Street>& streets, double place)
 {
-    return *std::min_element(streets.begin(), streets.end(), [place](const Street& a, const Street& b) {
-        return std::fabs(a.place - place) < std::fabs(b.place - place);
-    });
+    return *std::min_element(streets.begin(), streets.end(),
+                             [place](const Street& a, const Street& b)
+                             { return std::fabs(a.place - place) < std::fabs(b.place - place); });
 }
 
 void AddCar(Site& site, const osg::Vec2d& place, const osg::Vec2d& along)
@@ -91,7 +91,8 @@ void Furnish(Site& site, const Polygon& shape, const osg::Vec2d& axis, const osg
 void BuildRoads(Site& site)
 {
     const osg::Vec2d north(0.0, 1.0), east(1.0, 0.0);
-    const auto streets = [&](const std::vector<Polygon>& shapes, bool across, Surface surface) {
+    const auto streets = [&](const std::vector<Polygon>& shapes, bool across, Surface surface)
+    {
         for (const Polygon& shape : shapes)
         {
             const osg::Vec2d c = Centre(shape);

@@ -9,24 +9,24 @@ namespace city
 namespace
 {
 
-constexpr int kSteps = 24;          ///< points of the curve between two stations
-constexpr double kAhead = 130.0;    ///< how far ahead the view is aimed, metres
-constexpr double kLookDown = 0.13;   ///< slope of the view
-constexpr double kInwards = 0.65;    ///< share of the view that turns to the city's middle
+constexpr int kSteps = 24;         ///< points of the curve between two stations
+constexpr double kAhead = 130.0;   ///< how far ahead the view is aimed, metres
+constexpr double kLookDown = 0.13; ///< slope of the view
+constexpr double kInwards = 0.65;  ///< share of the view that turns to the city's middle
 const osg::Vec3d kFocus(200.0, 40.0, 0.0);
 
 /// Along the river, round the business district above its streets, over the old town and back.
 const osg::Vec3d kStations[] = {
-    {-640, -520, 120}, {-380, -470, 70}, {-180, -380, 45},  {-60, -320, 38},  {160, -270, 40},
-    {420, -255, 45},   {660, -270, 70},  {860, -180, 130},  {900, 80, 190},   {820, 420, 200},
-    {560, 660, 150},   {300, 780, 130},  {0, 760, 170},     {-250, 620, 170}, {-330, 420, 130},
-    {-450, 200, 110},  {-640, 60, 80},   {-800, -140, 75},  {-880, -360, 110}, {-800, -500, 130},
+    {-640, -520, 120}, {-380, -470, 70}, {-180, -380, 45}, {-60, -320, 38},   {160, -270, 40},
+    {420, -255, 45},   {660, -270, 70},  {860, -180, 130}, {900, 80, 190},    {820, 420, 200},
+    {560, 660, 150},   {300, 780, 130},  {0, 760, 170},    {-250, 620, 170},  {-330, 420, 130},
+    {-450, 200, 110},  {-640, 60, 80},   {-800, -140, 75}, {-880, -360, 110}, {-800, -500, 130},
 };
 
 osg::Vec3d CatmullRom(const osg::Vec3d& a, const osg::Vec3d& b, const osg::Vec3d& c, const osg::Vec3d& d, double t)
 {
-    return (b * 2.0 + (c - a) * t + (a * 2.0 - b * 5.0 + c * 4.0 - d) * (t * t) +
-            (b * 3.0 - a - c * 3.0 + d) * (t * t * t)) * 0.5;
+    return (b * 2.0 + (c - a) * t + (a * 2.0 - b * 5.0 + c * 4.0 - d) * (t * t) + (b * 3.0 - a - c * 3.0 + d) * (t * t * t)) *
+           0.5;
 }
 
 } // namespace
@@ -56,7 +56,8 @@ osg::Vec3d RoamPath::Position(double t) const
 osg::Matrixd RoamPath::ViewMatrix(double t) const
 {
     const osg::Vec3d eye = Position(t);
-    const auto level = [](osg::Vec3d direction) {
+    const auto level = [](osg::Vec3d direction)
+    {
         direction.z() = 0.0;
         direction.normalize();
         return direction;

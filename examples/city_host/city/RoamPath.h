@@ -21,8 +21,8 @@ public:
     double Length() const { return m_lengths.back(); }
 
 private:
-    std::vector<osg::Vec3d> m_points;  ///< close together along the curve; the last is the first again
-    std::vector<double> m_lengths;     ///< from the start to each point
+    std::vector<osg::Vec3d> m_points; ///< close together along the curve; the last is the first again
+    std::vector<double> m_lengths;    ///< from the start to each point
 };
 
 } // namespace city

@@ -15,10 +15,10 @@ namespace
 constexpr double kShadeHeight = 14.0; ///< up to which a wall stands in the shade of its surroundings, metres
 constexpr float kShadeGround = 0.66f;
 constexpr float kShadeTop = 0.94f;
-constexpr float kShadeTier = 0.84f;   ///< where a wall stands on a lower roof
+constexpr float kShadeTier = 0.84f; ///< where a wall stands on a lower roof
 constexpr double kParapet = 1.0;
 constexpr double kDetailWithin = 600.0; ///< from the centre, metres: further out walls and roofs are simpler
-constexpr double kParapetFrom = 9.0;  ///< lower bodies have none
+constexpr double kParapetFrom = 9.0;    ///< lower bodies have none
 
 osg::Vec3d Lift(const osg::Vec2d& p, double z)
 {
@@ -54,8 +54,7 @@ void AddSlopedWalls(Site& site, const Polygon& lower, const Polygon& upper, doub
     const double floors = WholeParts(top - bottom, module.floor);
     const double firstFloor = site.random.Whole(0, kFacadeBays - 1);
     double bay = site.random.Whole(0, kFacadeBays - 1);
-    const bool split = bottom < kShadeHeight * 0.5 && top > kShadeHeight * 1.6 &&
-                       Centre(lower).length() < kDetailWithin;
+    const bool split = bottom < kShadeHeight * 0.5 && top > kShadeHeight * 1.6 && Centre(lower).length() < kDetailWithin;
     const double levels[] = {bottom, split ? kShadeHeight : top, top};
     for (std::size_t i = 0; i < lower.size(); ++i)
     {
@@ -63,10 +62,12 @@ void AddSlopedWalls(Site& site, const Polygon& lower, const Polygon& upper, doub
         const double bays = WholeParts((lower[next] - lower[i]).length(), module.bay);
         for (int part = 0; part < (split ? 2 : 1); ++part)
         {
-            const auto corner = [&](std::size_t index, double z, double u) {
+            const auto corner = [&](std::size_t index, double z, double u)
+            {
                 const double t = (z - bottom) / (top - bottom);
                 const osg::Vec2d p = lower[index] * (1.0 - t) + upper[index] * t;
-                return Corner{Lift(p, z), {u / kFacadeBays, (firstFloor + floors * t) / kFacadeBays},
+                return Corner{Lift(p, z),
+                              {u / kFacadeBays, (firstFloor + floors * t) / kFacadeBays},
                               skin.colour * Shade(z, bottom, top, split)};
             };
             mesh.Quad(corner(i, levels[part], bay), corner(next, levels[part], bay + bays),
@@ -111,20 +112,19 @@ void AddBlockBody(Site& site, const Polygon& outline, double bottom, double top,
     {
         const std::size_t next = (i + 1) % outline.size();
         // Inset keeps the number of corners here, but may start at another one.
-        const auto nearest = [&](const osg::Vec2d& p) {
-            return *std::min_element(inner.begin(), inner.end(), [&](const osg::Vec2d& a, const osg::Vec2d& b) {
-                return (a - p).length2() < (b - p).length2();
-            });
+        const auto nearest = [&](const osg::Vec2d& p)
+        {
+            return *std::min_element(inner.begin(), inner.end(),
+                                     [&](const osg::Vec2d& a, const osg::Vec2d& b)
+                                     { return (a - p).length2() < (b - p).length2(); });
         };
         const osg::Vec2d a = nearest(outline[i]);
         const osg::Vec2d b = nearest(outline[next]);
         const auto corner = [&](const osg::Vec2d& p, double z, float shade) {
             return Corner{Lift(p, z), osg::Vec2d(), rim * shade};
         };
-        mesh.Quad(corner(outline[i], top, 1.0f), corner(outline[next], top, 1.0f), corner(b, top, 1.0f),
-                  corner(a, top, 1.0f));
-        mesh.Quad(corner(b, top - kParapet, 0.8f), corner(a, top - kParapet, 0.8f), corner(a, top, 0.95f),
-                  corner(b, top, 0.95f));
+        mesh.Quad(corner(outline[i], top, 1.0f), corner(outline[next], top, 1.0f), corner(b, top, 1.0f), corner(a, top, 1.0f));
+        mesh.Quad(corner(b, top - kParapet, 0.8f), corner(a, top - kParapet, 0.8f), corner(a, top, 0.95f), corner(b, top, 0.95f));
     }
     AddFlat(site, inner, top - kParapet, Surface::Roof, roof * 0.92f);
 }
@@ -144,19 +144,17 @@ void AddGable(Site& site, const Polygon& outline, double eaves, double rise, dou
     const double length = along.normalize();
     const double width = across.normalize();
     const double drop = rise * overhang / (width / 2);
-    const auto at = [&](double a, double c, double z) {
-        return Lift(outline[0] + along * a + across * c, z);
-    };
+    const auto at = [&](double a, double c, double z) { return Lift(outline[0] + along * a + across * c, z); };
     Mesh& roof = site.meshes.At(Surface::Tiles, outline[0]);
     const double size = PictureSize(Surface::Tiles);
     const double slope = std::sqrt(rise * rise + width * width / 4) / size;
-    const auto side = [&](double fromA, double toA, double edge) {
+    const auto side = [&](double fromA, double toA, double edge)
+    {
         const osg::Vec3d ridgeFrom = at(fromA, width / 2, eaves + rise);
         const osg::Vec3d ridgeTo = at(toA, width / 2, eaves + rise);
         roof.Quad({at(fromA, edge, eaves - drop), {0.0, 0.0}, tiles * 0.92f},
                   {at(toA, edge, eaves - drop), {(length + 2 * overhang) / size, 0.0}, tiles * 0.92f},
-                  {ridgeTo, {(length + 2 * overhang) / size, slope}, tiles * 1.05f},
-                  {ridgeFrom, {0.0, slope}, tiles * 1.05f});
+                  {ridgeTo, {(length + 2 * overhang) / size, slope}, tiles * 1.05f}, {ridgeFrom, {0.0, slope}, tiles * 1.05f});
     };
     side(-overhang, length + overhang, -overhang);
     side(length + overhang, -overhang, width + overhang);

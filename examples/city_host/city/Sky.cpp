@@ -68,8 +68,8 @@ osg::ref_ptr<osg::Geometry> MakeDome()
         for (int i = 0; i < kAround; ++i)
         {
             const auto at = [&](int r, int n) { return static_cast<GLushort>(r * (kAround + 1) + n); };
-            for (const GLushort index : {at(ring, i), at(ring + 1, i + 1), at(ring, i + 1), at(ring, i), at(ring + 1, i),
-                                         at(ring + 1, i + 1)})
+            for (const GLushort index :
+                 {at(ring, i), at(ring + 1, i + 1), at(ring, i + 1), at(ring, i), at(ring + 1, i), at(ring + 1, i + 1)})
                 triangles->push_back(index);
         }
     dome->setVertexArray(points.get());

@@ -33,15 +33,23 @@ Order OrderOf(Surface surface)
     switch (surface)
     {
     case Surface::Inlay:
-    case Surface::Pond: return {1, 0.0f};
-    case Surface::Lot: return {2, 1.0f};
-    case Surface::Pavement: return {3, 2.0f};
+    case Surface::Pond:
+        return {1, 0.0f};
+    case Surface::Lot:
+        return {2, 1.0f};
+    case Surface::Pavement:
+        return {3, 2.0f};
     case Surface::Road:
-    case Surface::Zebra: return {4, 3.0f};
-    case Surface::Base: return {5, 4.0f};
-    case Surface::Land: return {6, 4.0f};
-    case Surface::Water: return {7, 0.0f};
-    default: return {0, 0.0f};
+    case Surface::Zebra:
+        return {4, 3.0f};
+    case Surface::Base:
+        return {5, 4.0f};
+    case Surface::Land:
+        return {6, 4.0f};
+    case Surface::Water:
+        return {7, 0.0f};
+    default:
+        return {0, 0.0f};
     }
 }
 
@@ -66,8 +74,7 @@ osg::ref_ptr<osg::Texture2D> Repeating(osg::Image* image)
 void RegisterNearFirstBin()
 {
     if (!osgUtil::RenderBin::getRenderBinPrototype(kNearFirstBin))
-        osgUtil::RenderBin::addRenderBinPrototype(
-            kNearFirstBin, new osgUtil::RenderBin(osgUtil::RenderBin::SORT_FRONT_TO_BACK));
+        osgUtil::RenderBin::addRenderBinPrototype(kNearFirstBin, new osgUtil::RenderBin(osgUtil::RenderBin::SORT_FRONT_TO_BACK));
 }
 
 void AddLightMap(osg::StateSet& state, osg::Texture2D* lightMap, double size)
@@ -92,10 +99,11 @@ bool IsFacade(Surface surface)
 
 const char* SurfaceName(Surface surface)
 {
-    static const char* const kNames[] = {"FacadeCream", "FacadeBrick", "FacadeWhite", "FacadeGlassBlue",
-                                         "FacadeGlassGrey", "FacadeStone", "FacadeShop", "FacadeOld", "FacadeFins",
-                                         "Plain", "Roof", "Tiles", "Foliage", "Inlay", "Pond", "Lot", "Pavement", "Road", "Zebra",
-                                         "Base", "Land", "Water"};
+    static const char* const kNames[] = {"FacadeCream", "FacadeBrick", "FacadeWhite", "FacadeGlassBlue", "FacadeGlassGrey",
+                                         "FacadeStone", "FacadeShop",  "FacadeOld",   "FacadeFins",      "Plain",
+                                         "Roof",        "Tiles",       "Foliage",     "Inlay",           "Pond",
+                                         "Lot",         "Pavement",    "Road",        "Zebra",           "Base",
+                                         "Land",        "Water"};
     return kNames[static_cast<int>(surface)];
 }
 

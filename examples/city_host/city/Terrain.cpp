@@ -27,7 +27,9 @@ const Colour kHills[] = {{.55f, .59f, .50f}, {.60f, .63f, .55f}};
 
 Polygon Between(const Plan& plan, double x0, double x1, double offset0, double offset1)
 {
-    return {{x0, plan.RiverAt(x0) + offset0}, {x1, plan.RiverAt(x1) + offset0}, {x1, plan.RiverAt(x1) + offset1},
+    return {{x0, plan.RiverAt(x0) + offset0},
+            {x1, plan.RiverAt(x1) + offset0},
+            {x1, plan.RiverAt(x1) + offset1},
             {x0, plan.RiverAt(x0) + offset1}};
 }
 
@@ -51,11 +53,10 @@ void AddBank(Site& site, double x0, double x1, double side, bool walk)
 {
     const Plan& plan = site.plan;
     const double edge = kRiverHalf * side;
-    const auto at = [&](double x, double offset, double z) {
-        return osg::Vec3d(x, plan.RiverAt(x) + edge + offset * side, z);
-    };
+    const auto at = [&](double x, double offset, double z) { return osg::Vec3d(x, plan.RiverAt(x) + edge + offset * side, z); };
     Mesh& mesh = site.meshes.At(Surface::Plain, {x0, plan.RiverAt(x0)});
-    const auto face = [&](double offset, double bottom, double top, double facing, float dark) {
+    const auto face = [&](double offset, double bottom, double top, double facing, float dark)
+    {
         const double from = facing * side < 0.0 ? x0 : x1;
         const double to = facing * side < 0.0 ? x1 : x0;
         mesh.Quad({at(from, offset, bottom), {}, kBank * dark}, {at(to, offset, bottom), {}, kBank * dark},
@@ -86,12 +87,12 @@ void AddHills(Site& site)
         const double distance = range == 0 ? 4700.0 : 6200.0;
         std::vector<double> heights;
         for (int i = 0; i < kPeaks; ++i)
-            heights.push_back(site.random.Range(30.0, 150.0) * (range + 1.2) *
-                              (0.55 + 0.45 * std::sin(i * 0.26 + range * 2.0)));
+            heights.push_back(site.random.Range(30.0, 150.0) * (range + 1.2) * (0.55 + 0.45 * std::sin(i * 0.26 + range * 2.0)));
         Mesh& mesh = site.meshes.At(Surface::Plain, {0.0, 0.0});
         for (int i = 0; i < kPeaks; ++i)
         {
-            const auto foot = [&](int n, double z, double more) {
+            const auto foot = [&](int n, double z, double more)
+            {
                 const double a = 6.283185307 * n / kPeaks;
                 const double d = distance + more;
                 return Corner{{d * std::cos(a), d * std::sin(a), z}, {}, kHills[range]};

@@ -19,8 +19,7 @@ const Colour kMachinery(.78f, .77f, .75f);
 constexpr Surface kOfficeFacades[] = {Surface::FacadeGlassBlue, Surface::FacadeGlassBlue, Surface::FacadeGlassGrey,
                                       Surface::FacadeStone, Surface::FacadeFins};
 constexpr Surface kHomeFacades[] = {Surface::FacadeCream, Surface::FacadeBrick, Surface::FacadeWhite};
-const Colour kHomeTints[] = {{.98f, .93f, .85f}, {.95f, .88f, .80f}, {.97f, .95f, .92f}, {.95f, .90f, .82f},
-                             {.88f, .88f, .86f}};
+const Colour kHomeTints[] = {{.98f, .93f, .85f}, {.95f, .88f, .80f}, {.97f, .95f, .92f}, {.95f, .90f, .82f}, {.88f, .88f, .86f}};
 
 Skin OfficeSkin(Site& site)
 {

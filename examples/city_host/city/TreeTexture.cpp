@@ -26,8 +26,8 @@ struct Picture
     {
         for (int y = static_cast<int>(cy - radius); y <= cy + radius; ++y)
             for (int x = static_cast<int>(cx - radius); x <= cx + radius; ++x)
-                if ((x - cx) * (x - cx) + (y - cy) * (y - cy) <= radius * radius && x >= 0 && y >= 0 &&
-                    x < 2 * kHalf && y < kHalf)
+                if ((x - cx) * (x - cx) + (y - cy) * (y - cy) <= radius * radius && x >= 0 && y >= 0 && x < 2 * kHalf &&
+                    y < kHalf)
                 {
                     colours.At(x, y) = colour;
                     alpha[static_cast<std::size_t>(y) * 2 * kHalf + x] = 255;

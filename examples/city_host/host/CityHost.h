@@ -10,6 +10,7 @@
 #include "../city/City.h"
 #include "../publish/Publishing.h"
 #include "../publish/StartScreen.h"
+#include "../skin/LiveSkin.h"
 #include "../toast/Toasts.h"
 #include "../views/UserViews.h"
 #include "../window/HostWindow.h"
@@ -58,6 +59,9 @@ public:
 
     void Close() { closed_ = true; }
     void SwitchLanguage(const CString& language);
+    /// Takes the next of the skins that lie beside each other. @return what it is called, or why it is not taken
+    CString SwitchSkin();
+    LiveSkin& Skin() { return *skin_; }
     /// Builds the interface's frame anew, as the control buttons now are.
     void RebuildInterface();
     void FlyHome();
@@ -93,6 +97,9 @@ private:
     void CarryOutClicks();
     void TellPick();
     void FollowFrame();
+    /// Takes over what was changed in the skin's files.
+    void FollowSkin(Clock::time_point now);
+    void AfterRestart();
     bool Advance();
     bool Draw();
     void AdvanceStartScreen(double seconds);
@@ -115,7 +122,7 @@ private:
     bool doubleClicked_ = false;
     /// When a picked building is told of, once no double click can come any more.
     std::optional<Clock::time_point> tellPickAt_;
-    CSize laidOutFor_;  ///< size of the view that the panel was last refreshed for
+    CSize laidOutFor_; ///< size of the view that the panel was last refreshed for
 
     city::City city_;
     OrbitCamera camera_;
@@ -130,8 +137,9 @@ private:
     osg::ref_ptr<osg::Group> guiSlot_;
     std::unique_ptr<PropertyView> properties_;
     std::unique_ptr<Toasts> toasts_;
-    std::unique_ptr<StartScreen> startScreen_;  ///< null but at the start of a publication
-    std::unique_ptr<GuiSession> gui_;           ///< null until the start page has been seen
+    std::unique_ptr<StartScreen> startScreen_; ///< null but at the start of a publication
+    std::unique_ptr<LiveSkin> skin_;            ///< null until the interface starts
+    std::unique_ptr<GuiSession> gui_;          ///< null until the start page has been seen
 };
 
 } // namespace host

@@ -20,7 +20,10 @@ namespace
 class QuietOsg
 {
 public:
-    explicit QuietOsg(osg::NotifySeverity level) : former_(osg::getNotifyLevel()) { osg::setNotifyLevel(std::min(former_, level)); }
+    explicit QuietOsg(osg::NotifySeverity level) : former_(osg::getNotifyLevel())
+    {
+        osg::setNotifyLevel(std::min(former_, level));
+    }
     ~QuietOsg() { osg::setNotifyLevel(former_); }
     QuietOsg(const QuietOsg&) = delete;
     QuietOsg& operator=(const QuietOsg&) = delete;

@@ -23,7 +23,7 @@ public:
     void Stop();
 
 private:
-    std::vector<unsigned char> wave_;  ///< a whole WAV file; the system reads it while it plays
+    std::vector<unsigned char> wave_; ///< a whole WAV file; the system reads it while it plays
     bool playing_ = false;
 };
 

@@ -14,8 +14,8 @@ class FontContext
 public:
     FontContext(const CString& family, int pixels, bool bold)
         : dc_(CreateCompatibleDC(nullptr)),
-          font_(CreateFontW(-pixels, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
-                            CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, DEFAULT_PITCH | FF_DONTCARE, family)),
+          font_(CreateFontW(-pixels, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                            OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, DEFAULT_PITCH | FF_DONTCARE, family)),
           formerFont_(SelectObject(dc_, font_))
     {
     }
@@ -74,7 +74,8 @@ TextMask DrawTextMask(const CString& text, const CString& family, int pixels, bo
     mask.coverage.reserve(static_cast<std::size_t>(size.cx) * size.cy);
     for (int y = 0; y < size.cy; ++y)
     {
-        const auto* row = static_cast<const unsigned char*>(picture.GetBits()) + static_cast<std::ptrdiff_t>(y) * picture.GetPitch();
+        const auto* row =
+            static_cast<const unsigned char*>(picture.GetBits()) + static_cast<std::ptrdiff_t>(y) * picture.GetPitch();
         for (int x = 0; x < size.cx; ++x)
         {
             mask.coverage.push_back(row[x * 4 + 1]);

@@ -27,7 +27,7 @@ constexpr double BadgeRadius = 7.0;
 
 struct Color
 {
-    double red, green, blue;  ///< 0 to 255
+    double red, green, blue; ///< 0 to 255
 };
 
 constexpr Color GlassTop = {0x26, 0x2C, 0x37};

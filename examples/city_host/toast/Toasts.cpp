@@ -141,8 +141,9 @@ bool Toasts::Advance(double seconds, CSize view)
 
 bool Toasts::IsChanging() const
 {
-    return !placed_ || std::any_of(notes_.begin(), notes_.end(), [](const Note& note)
-                                   { return AlphaAt(note.age) != note.shownAlpha || note.shownAlpha < 1.0; });
+    return !placed_ ||
+           std::any_of(notes_.begin(), notes_.end(),
+                       [](const Note& note) { return AlphaAt(note.age) != note.shownAlpha || note.shownAlpha < 1.0; });
 }
 
 void Toasts::Place()

@@ -48,7 +48,7 @@ private:
     void Place();
 
     osg::ref_ptr<osg::Camera> camera_;
-    std::vector<Note> notes_;  ///< the oldest first
+    std::vector<Note> notes_; ///< the oldest first
     CSize view_;
     bool placed_ = true;
 };

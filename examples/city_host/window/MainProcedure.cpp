@@ -11,7 +11,7 @@ namespace host
 namespace
 {
 
-constexpr LONG EdgeWidth = 8;  ///< pixels
+constexpr LONG EdgeWidth = 8; ///< pixels
 constexpr POINT SmallestSize = {640, 480};
 
 } // namespace
