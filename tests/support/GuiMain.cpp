@@ -5,7 +5,6 @@
 
 #include <afxwin.h>
 
-#include <cstdio>
 #include <iostream>
 
 int main(int argc, char** argv)
@@ -17,11 +16,5 @@ int main(int argc, char** argv)
     GetCurrentDirectoryW(MAX_PATH, folder);
     SystemUtility::SetAppPath(CString(folder) + L"\\app\\");
     testing::InitGoogleTest(&argc, argv);
-    const int failed = RUN_ALL_TESTS();
-    std::cout.flush();
-    std::fflush(nullptr);
-    // At once: OSG's windowing system unregisters its window classes when static objects go, and Wine, asked that late, ends
-    // the process with 0, whatever has failed.
-    TerminateProcess(GetCurrentProcess(), static_cast<UINT>(failed));
-    return failed;
+    return RUN_ALL_TESTS();
 }
