@@ -25,8 +25,8 @@ TEST_F(SceneMenuTest, its_items_are_those_of_the_file)
     RightClickScene();
     const Menus menus = Log().TakeMenus();
     ASSERT_EQ(menus.size(), 2u);
-    EXPECT_EQ(menus[0], (std::vector<std::string>{"40201 添加视点", "-", "40202 显示属性 checked", "> More",
-                                                  "40204 Not now disabled"}));
+    EXPECT_EQ(menus[0],
+              (std::vector<std::string>{"40201 添加视点", "-", "40202 显示属性 checked", "> More", "40204 Not now disabled"}));
     EXPECT_EQ(menus[1], (std::vector<std::string>{"40203 Deep"}));
 }
 
