@@ -42,10 +42,10 @@ while read -r file width height; do
 done < <(pictures)
 [ "$count" -gt 0 ] || { echo "check_skin.sh: no table of pictures in $guide" >&2; exit 2; }
 
-# names FILE ELEMENT ATTRIBUTE: the attribute's values in an XML file.
+# names FILE ELEMENT ATTRIBUTE: the attribute's values in an XML file. Skins for CEGUI 0.6 begin most names with a capital.
 names()
 {
-    tr '\n' ' ' <"$1" | grep -oE "<$2 [^>]*" | grep -oE " $3=\"[^\"]*\"" | cut -d'"' -f2 || true
+    tr '\n' ' ' <"$1" | grep -oE "<$2 [^>]*" | grep -oiE " $3=\"[^\"]*\"" | cut -d'"' -f2 || true
 }
 
 scheme=TavLookSkin.scheme

@@ -8,6 +8,7 @@
 #include "../widgets/InputState.h"
 #include "../widgets/ParsingLocale.h"
 #include "FontInstallation.h"
+#include "SkinResourceProvider.h"
 
 #include <KernelCommonUse/StringConvert.h>
 
@@ -19,6 +20,8 @@
 
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
+#include <optional>
+
 namespace
 {
 const char* const SkinImagesetFile = "TavLook.imageset";
@@ -26,6 +29,13 @@ const char* const SkinImagesetFile = "TavLook.imageset";
 const char* const TitleFontFile = "youyuan.ttf";
 const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
 const wchar_t* const LeftListFrame = L"TavLeftCtrlFrame";
+
+void ReleaseDrawable(osg::ref_ptr<CeGuiDrawable>& drawable, osg::ref_ptr<osg::Camera>& camera)
+{
+    drawable->Finish();
+    drawable = nullptr;
+    camera = nullptr;
+}
 } // namespace
 
 bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
@@ -35,16 +45,26 @@ bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
     viewer_ = viewer;
     userType_ = userType;
     CreateGuiDrawable();
+    // The end of CEGUI unloads its XML parser, and with it the code of an exception that the parser has made: the host gets
+    // one of the library's own.
+    std::optional<CEGUI::String> failure;
     try
     {
         InitGuiDrawable();
     }
+    catch (const CEGUI::Exception& raised)
+    {
+        failure = raised.getMessage();
+    }
     catch (...)
     {
-        drawable_->Finish();
-        drawable_ = nullptr;
-        hudCamera_ = nullptr;
+        ReleaseDrawable(drawable_, hudCamera_);
         throw;
+    }
+    if (failure)
+    {
+        ReleaseDrawable(drawable_, hudCamera_);
+        throw CEGUI::FileIOException(*failure);
     }
     if (viewer && viewer->getCamera()->getViewport())
     {
@@ -104,6 +124,7 @@ void CeGuiMainFrame::ClearAllWindows()
     CEGUI::WindowManager::getSingleton().destroyAllWindows();
     FileImagesets::DestroyAllImagesets();
     CEGUI::ImageManager::getSingleton().loadImageset(SkinImagesetFile, "");
+    static_cast<SkinResourceProvider*>(system->getResourceProvider())->RereadLooks();
 }
 
 osg::ref_ptr<osg::Group> CeGuiMainFrame::GetGUINode()

@@ -1,13 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "OldSkin.h"
+
 #include <CEGUI/DefaultResourceProvider.h>
 
+#include <set>
+#include <string>
+#include <utility>
+
 /// CEGUI's default provider, which takes files of a resource group by Win32 paths and by names in the narrow form that the
-/// interface's names have.
+/// interface's names have, and hands on the files of skins for CEGUI 0.6 in 0.8's formats. Any other file is handed on as it
+/// is. What is left out of an old file is a line each in the log, once.
 class SkinResourceProvider : public CEGUI::DefaultResourceProvider
 {
 public:
     void loadRawDataContainer(const CEGUI::String& filename, CEGUI::RawDataContainer& output,
                               const CEGUI::String& resourceGroup) override;
+
+    /// Has CEGUI read the old looks again that name pictures of the skin's imageset. A look keeps hold of such a picture, so
+    /// this is due when the imageset has been made anew. Needs every window gone.
+    void RereadLooks();
+
+private:
+    void TranslateOldSkin(const CEGUI::String& filename, const CEGUI::String& group, CEGUI::RawDataContainer& data);
+
+    OldSkin oldSkin_;
+    /// Some files are read with every size of the window.
+    std::set<std::string> told_;
+    /// File and group.
+    std::set<std::pair<CEGUI::String, CEGUI::String>> looks_;
 };

@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 
 namespace
 {
@@ -143,9 +144,24 @@ void DestroyFileImagesets()
 
 void DestroyAllImagesets()
 {
+    // Not every texture of the renderer: fonts hold some. An imageset's is called like the imageset, which its images' names
+    // begin with, or like its only image.
+    std::set<CEGUI::String> textures;
+    CEGUI::ImageManager& images = CEGUI::ImageManager::getSingleton();
+    for (CEGUI::ImageManager::ImageIterator image = images.getIterator(); !image.isAtEnd(); ++image)
+    {
+        const CEGUI::String name = image.getCurrentKey();
+        textures.insert({name, name.substr(0, name.rfind('/'))});
+    }
     imagesets.clear();
-    CEGUI::ImageManager::getSingleton().destroyAll();
-    Renderer().destroyAllTextures();
+    images.destroyAll();
+    for (const CEGUI::String& texture : textures)
+    {
+        if (Renderer().isTextureDefined(texture))
+        {
+            Renderer().destroyTexture(texture);
+        }
+    }
 }
 
 bool IsSkinImagesetPresent(const CEGUI::String& name)

@@ -43,7 +43,7 @@ void DestroyNamed(const CEGUI::String& name);
 /// Every file imageset, as by `Destroy`.
 void DestroyFileImagesets();
 
-/// Every image and texture of CEGUI, the skin's own included.
+/// Every image of CEGUI, the skin's own included, with their textures.
 void DestroyAllImagesets();
 
 /// Whether the skin's own imageset of this name ("TavLook") is loaded.

@@ -45,6 +45,13 @@ cp -R "$shipped" "$folder/skin"
 mv "$folder/topBG.png" "$folder/skin/new_skin/"
 "$source/tools/check_skin.sh" "$folder/skin" >/dev/null || fail "the width of topBG.png is not free"
 
+# A skin for CEGUI 0.6 is read as well.
+cp "$source"/tests/skins/old_format/* "$folder/skin/"
+"$source/tools/check_skin.sh" "$folder/skin" >/dev/null || fail "a skin in the old formats does not pass"
+sed -i 's#WindowType="TavLook/ImageButton"#WindowType="Other"#' "$folder/skin/TavLookSkin.scheme"
+said=$("$source/tools/check_skin.sh" "$folder/skin") && fail "a broken skin in the old formats passes"
+grep -qxF 'no window type TavLook/ImageButton in TavLookSkin.scheme' <<<"$said" || fail "$said"
+
 named=$(grep -rhoE 'L"[A-Za-z_/]{4,}\.png"' "$source/src" | cut -d'"' -f2 | sort -u)
 [ "$(wc -l <<<"$named")" -gt 15 ] || fail "the sources name too few pictures: $named"
 while read -r picture; do
