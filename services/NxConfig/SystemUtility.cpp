@@ -2,7 +2,9 @@
 #include "SystemUtility.h"
 
 #include "../KernelCommonUse/IniReader.h"
+#include "../KernelCommonUse/StringConvert.h"
 #include "AppPath.h"
+#include "ParamConfig.h"
 
 namespace
 {
@@ -55,7 +57,7 @@ const Directories& TheDirectories()
         IniReader reader;
         reader.Read(SystemUtility::GetAppPath() + L"config\\directories.ini", IniReader::Encoding::Detect);
         directories.resource = DirectoryOf(reader, L"Resource", L"resource\\");
-        directories.ceguiResource = DirectoryOf(reader, L"CeguiResource", L"resource\\cegui\\TavLook\\");
+        directories.ceguiResource = DirectoryOf(reader, L"CeguiResource", L"");
         directories.sysMid = DirectoryOf(reader, L"SysMid", L"sysmid\\");
         directories.generation = AppPathGeneration();
     }
@@ -114,7 +116,13 @@ CString SystemUtility::GetResourceRelPath()
 
 CString SystemUtility::GetCeguiResRelPath()
 {
-    return TheDirectories().ceguiResource;
+    if (!TheDirectories().ceguiResource.IsEmpty())
+    {
+        return TheDirectories().ceguiResource;
+    }
+    // Text pictures are shown from the skin's folder, so where nothing else is said they are written there.
+    const CString skin = _a2w(CParamConfig::getInstance()->getStringParam("CEGUI_SkinDir"));
+    return GetResourceRelPath() + (skin.IsEmpty() ? CString(L"cegui\\TavLook\\") : WithBackslash(skin));
 }
 
 CString SystemUtility::GetSysMidPath()

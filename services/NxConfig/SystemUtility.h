@@ -19,7 +19,8 @@ public:
     // anew from there at their next use.
     static void SetAppPath(const CString& path);
 
-    // Relative to the application directory; by default "resource\", "resource\cegui\TavLook\" and "sysmid\".
+    // Relative to the application directory; by default "resource\", the skin's folder (the resource directory and the
+    // parameter CEGUI_SkinDir, or "resource\cegui\TavLook\" without one) and "sysmid\".
     static CString GetResourceRelPath();
     static CString GetCeguiResRelPath();
     static CString GetSysMidPath();

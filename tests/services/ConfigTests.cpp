@@ -34,6 +34,22 @@ TEST(SystemUtility, HasDefaultDirectories)
     EXPECT_EQ(folder.TakeLog(), std::vector<std::string>());
 }
 
+TEST(SystemUtility, LetsTextPicturesFollowTheSkinWhereNothingElseIsSaid)
+{
+    TestFolder folder;
+    folder.Write(L"config\\directories.ini", "[Directories]\nResource=res\nCeguiResource=\n");
+    folder.Write(L"config\\parameters.ini", "[Parameters]\nCEGUI_SkinDir=cegui\\Other\\\n");
+    EXPECT_EQ(Utf8(SystemUtility::GetCeguiResRelPath()), "res\\cegui\\Other\\");
+    CParamConfig::getInstance()->setStringParam("CEGUI_SkinDir", "light");
+    EXPECT_EQ(Utf8(SystemUtility::GetCeguiResRelPath()), "res\\light\\");
+    CParamConfig::getInstance()->setStringParam("CEGUI_SkinDir", "");
+    EXPECT_EQ(Utf8(SystemUtility::GetCeguiResRelPath()), "res\\cegui\\TavLook\\");
+    TestFolder other;
+    other.Write(L"config\\directories.ini", "[Directories]\nCeguiResource=mine\n");
+    other.Write(L"config\\parameters.ini", "[Parameters]\nCEGUI_SkinDir=cegui\\Other\\\n");
+    EXPECT_EQ(Utf8(SystemUtility::GetCeguiResRelPath()), "mine\\") << "what is said holds";
+}
+
 TEST(SystemUtility, ReadsDirectoriesAndEndsThemInABackslash)
 {
     TestFolder folder;

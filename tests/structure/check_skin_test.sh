@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# tools/check_skin.sh: the skin that is shipped passes, and what is broken in a copy is named. Every picture that the sources
+# tools/check_skin.sh: the skins that are shipped pass, and what is broken in a copy is named. Every picture that the sources
 # name is in the guide that the tool reads.
 #   check_skin_test.sh SOURCE
 set -euo pipefail
@@ -15,6 +15,7 @@ fail()
 }
 
 "$source/tools/check_skin.sh" "$shipped"
+"$source/tools/check_skin.sh" "${shipped}Light"
 
 # expect WORDS: breaks a copy with the commands on standard input, run in it.
 expect()
