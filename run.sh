@@ -3,9 +3,10 @@
 # Installs what is missing, builds, and opens the city host: in a window where there is a display, else as a tour.
 #   run.sh [--tour DIR] [HOST OPTIONS...]
 #   --tour DIR   lets the host show itself on a display of its own; pictures and index.html go to DIR (out/tour)
-#   --tour-part chrome|bars|objects|documents   makes only this part of it
+#   --tour-part chrome|bars|objects|documents|looks   makes only this part of it
 #   --publication DIR   shows what the host has published into this folder: its start page first, then the scene
-#   --size WIDTHxHEIGHT, --user NUMBER, --language zh-CN|en, --samples NUMBER   for the host
+#   --skin TavLook|TavLookLight|DIR   the skin; changes in its folder are followed
+#   --size WIDTHxHEIGHT, --scale 1..4, --user NUMBER, --language zh-CN|en, --samples NUMBER   for the host
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
 tour=
@@ -14,6 +15,9 @@ while [ $# -gt 0 ]; do
     if [ "$1" = --tour ]; then
         [ $# -ge 2 ] && [ -n "$2" ] || { echo "run.sh: --tour wants a folder" >&2; exit 2; }
         tour=$2
+        shift 2
+    elif [ "$1" = --skin ] && [ -d "${2:-}" ]; then
+        options+=(--skin "Z:$(cd "$2" && pwd)")
         shift 2
     else
         options+=("$1")

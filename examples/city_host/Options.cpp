@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Options.h"
 
+#include <NxConfig/SystemUtility.h>
+
 #include <shellapi.h>
 
 #include <cwchar>
@@ -73,9 +75,30 @@ bool SetLanguage(const CString& value, Options& options)
     return value == L"zh-CN" || value == L"en";
 }
 
+bool SetSkin(const CString& value, Options& options)
+{
+    options.skinFolder = value;
+    options.skinFolder.Replace(L'/', L'\\');
+    if (options.skinFolder.Find(L'\\') < 0)
+    {
+        // The name of a skin beside the others.
+        options.skinFolder = SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath() + L"cegui\\" + value;
+    }
+    if (options.skinFolder[options.skinFolder.GetLength() - 1] != L'\\')
+    {
+        options.skinFolder += L'\\';
+    }
+    return !value.IsEmpty();
+}
+
 bool SetSamples(const CString& value, Options& options)
 {
     return ReadNumber(value, 0, 16, options.samples);
+}
+
+bool SetScale(const CString& value, Options& options)
+{
+    return ReadNumber(value, 1, 4, options.scale);
 }
 
 bool SetSlide(const CString& value, Options& options)
@@ -93,11 +116,13 @@ struct Switch
 
 const Switch switches[] = {
     {L"--tour", SetTour, L"a folder"},
-    {L"--tour-part", SetTourPart, L"chrome, bars, objects or documents"},
+    {L"--tour-part", SetTourPart, L"chrome, bars, objects, documents or looks"},
     {L"--publication", SetPublication, L"the folder of a publication"},
     {L"--size", SetSize, L"WIDTHxHEIGHT in pixels"},
     {L"--user", SetUser, L"the number of a kind of user, 0 for the full one"},
     {L"--language", SetLanguage, L"zh-CN or en"},
+    {L"--skin", SetSkin, L"the name of a skin, or its folder"},
+    {L"--scale", SetScale, L"1 to 4 pixels of the view to one of the interface"},
     {L"--slide", SetSlide, L"on or off"},
     {L"--samples", SetSamples, L"0 to 16 samples of multisampling"},
 };

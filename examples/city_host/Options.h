@@ -17,8 +17,9 @@ struct Options
     CSize size = CSize(1280, 800); ///< of the window, in pixels
     GUIUserType user = GUI_USER_FULL;
     CString language;      ///< "zh-CN" or "en"; empty: what the parameters say
-    CString skinFolder;                  ///< of the skin, with a backslash at the end; empty: what the parameters say
+    CString skinFolder;    ///< of the skin, with a backslash at the end; empty: what the parameters say
     bool slideOut = false; ///< bars slide out instead of vanishing
+    int scale = 0;         ///< view pixels to one of the interface's; 0: as the monitor's density says
     int samples = 0;       ///< of multisampling; 0: none
 };
 

@@ -4,6 +4,7 @@
 #include "host/CityHost.h"
 #include "host/Language.h"
 #include "tour/Tour.h"
+#include "window/Density.h"
 
 #include <KernelCommonUse/StringConvert.h>
 
@@ -60,6 +61,7 @@ CityHostApp application;
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int show)
 {
+    host::TakeTrueDensity();
     if (!AfxWinInit(instance, nullptr, GetCommandLineW(), show))
     {
         return 1;

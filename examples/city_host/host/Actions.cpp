@@ -196,6 +196,11 @@ CString Actions::SwitchLanguage(const GuiMessage&)
     return Say({L"中文", L"English"});
 }
 
+CString Actions::SwitchSkin(const GuiMessage&)
+{
+    return host_.SwitchSkin();
+}
+
 CString Actions::FlyHome(const GuiMessage&)
 {
     host_.FlyHome();

@@ -36,6 +36,7 @@ public:
     CString WalkLeft(const GuiMessage& message);
     CString WalkRight(const GuiMessage& message);
     CString SwitchLanguage(const GuiMessage& message);
+    CString SwitchSkin(const GuiMessage& message);
     CString FlyHome(const GuiMessage& message);
 
 private:

@@ -67,6 +67,7 @@ void CityHost::ShowPublication()
 
 void CityHost::OpenInterface()
 {
+    skin_ = std::make_unique<LiveSkin>(options_.skinFolder.IsEmpty() ? LiveSkin::ConfiguredFolder() : options_.skinFolder);
     gui_ = std::make_unique<GuiSession>(*viewer_, *guiSlot_, options_.user, options_.slideOut);
     ShowTitle();
     // The interface shows from its third frame on: the first draw is skipped, the second may build text pictures.
@@ -79,6 +80,7 @@ CityHost::~CityHost()
     startScreen_.reset();
     menuActions_.CloseDialog();
     gui_.reset();
+    scale_.reset();
     toasts_.reset();
     // The context goes before the window that it draws in.
     viewer_ = nullptr;
@@ -96,6 +98,8 @@ void CityHost::BuildScene()
     root->addChild(guiSlot_);
     root->addChild(input);
     toasts_ = std::make_unique<Toasts>(*root);
+    scale_ = std::make_unique<InterfaceScale>(*root, *guiSlot_);
+    ScaleFor(DensityOf(window_.Main()));
     viewer_->setSceneData(root);
     viewer_->getCamera()->setViewMatrix(camera_.Pose().ViewMatrix());
 }
@@ -171,6 +175,7 @@ bool CityHost::Advance()
     {
         AdvanceStartScreen(seconds);
     }
+    FollowSkin(now);
     ShowTitle();
     return framesDue_ > 0;
 }
@@ -244,23 +249,6 @@ void CityHost::ShowTitle()
     }
 }
 
-void CityHost::SwitchLanguage(const CString& language)
-{
-    gui_->Restart(language);
-    publishing_.CloseDialog();
-    menuActions_.CloseDialog();
-    properties_->Refresh();
-    laidOutFor_ = CSize();
-    NeedFrames(3);
-}
-
-void CityHost::RebuildInterface()
-{
-    gui_->Rebuild();
-    Frame().RefreshPropertyDlg();
-    NeedFrames(2);
-}
-
 void CityHost::FlyHome()
 {
     roam_.Stop();
@@ -303,7 +291,7 @@ void CityHost::OnSceneDoubleClick()
 
 bool CityHost::IsOnInterface(CPoint point) const
 {
-    return gui_ && gui_->IsOnFrame(point);
+    return gui_ && gui_->IsOnFrame(scale_->Inner(point));
 }
 
 void CityHost::OnInput()
@@ -340,7 +328,7 @@ void CityHost::OnTimer(UINT_PTR id)
 
 void CityHost::OnMouseMove(UINT flags, CPoint point)
 {
-    Frame().OnMouseMove(flags, point);
+    Frame().OnMouseMove(flags, scale_->Inner(point));
 }
 
 void CityHost::OnModalTick()
@@ -353,7 +341,7 @@ void CityHost::OnModalTick()
 
 bool CityHost::IsTitleHandle(CPoint point) const
 {
-    return gui_ && gui_->IsTitleHandle(point);
+    return gui_ && gui_->IsTitleHandle(scale_->Inner(point));
 }
 
 bool CityHost::HasResizeEdges() const

@@ -17,6 +17,7 @@
 #include "Actions.h"
 #include "GuiMessage.h"
 #include "GuiSession.h"
+#include "InterfaceScale.h"
 #include "MenuActions.h"
 #include "PropertyView.h"
 
@@ -79,6 +80,7 @@ private:
     void OnTimer(UINT_PTR id) override;
     void OnMouseMove(UINT flags, CPoint point) override;
     void OnModalTick() override;
+    void OnDensity(UINT density) override;
     void OnCloseRequest() override { closed_ = true; }
     bool IsTitleHandle(CPoint point) const override;
     bool HasResizeEdges() const override;
@@ -97,6 +99,7 @@ private:
     void CarryOutClicks();
     void TellPick();
     void FollowFrame();
+    void ScaleFor(UINT density);
     /// Takes over what was changed in the skin's files.
     void FollowSkin(Clock::time_point now);
     void AfterRestart();
@@ -135,10 +138,11 @@ private:
     HostWindow window_;
     osg::ref_ptr<osgViewer::Viewer> viewer_;
     osg::ref_ptr<osg::Group> guiSlot_;
+    std::unique_ptr<InterfaceScale> scale_;
     std::unique_ptr<PropertyView> properties_;
     std::unique_ptr<Toasts> toasts_;
     std::unique_ptr<StartScreen> startScreen_; ///< null but at the start of a publication
-    std::unique_ptr<LiveSkin> skin_;            ///< null until the interface starts
+    std::unique_ptr<LiveSkin> skin_;           ///< null until the interface starts
     std::unique_ptr<GuiSession> gui_;          ///< null until the start page has been seen
 };
 

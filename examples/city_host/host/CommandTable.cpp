@@ -32,6 +32,7 @@ const Command commands[] = {
 
 const HostKey hostKeys[] = {
     {'L', {L"界面语言", L"Language"}, &Actions::SwitchLanguage},
+    {'K', {L"界面皮肤", L"Skin"}, &Actions::SwitchSkin},
     {'A', {L"抗锯齿", L"Anti-aliasing"}, &Actions::ToggleMultisampling},
     {'M', {L"背景音乐", L"Background music"}, &Actions::ToggleMusic},
     {'S', {L"滑出动画", L"Slide-out animation"}, &Actions::ToggleSlideOut},

@@ -68,24 +68,36 @@ void GuiSession::Close()
     slot_.removeChildren(0, slot_.getNumChildren());
 }
 
-void GuiSession::Restart(const CString& language)
+void GuiSession::Restart(const std::function<void()>& between)
 {
     const bool panelOpen = Frame().IsOpenPropertyDlg();
     Close();
-    const bool chinese = IsChinese();
-    const bool ownTitle = Frame().GetSceneTitle() != Translation("LKEY0");
-    UseLanguage(language);
-    if (IsChinese() != chinese)
+    if (between)
     {
-        ExchangeLanguages(Frame().GetCtrlBtnInfo());
-    }
-    if (!ownTitle)
-    {
-        Frame().SetSceneTitle(Translation("LKEY0"));
+        between();
     }
     Open();
     // A start begins without the panel; the frame that is built next shows it.
     Frame().OpenPropertyDlg(nullptr, panelOpen);
+}
+
+void GuiSession::RestartIn(const CString& language)
+{
+    Restart(
+        [&]
+        {
+            const bool chinese = IsChinese();
+            const bool ownTitle = Frame().GetSceneTitle() != Translation("LKEY0");
+            UseLanguage(language);
+            if (IsChinese() != chinese)
+            {
+                ExchangeLanguages(Frame().GetCtrlBtnInfo());
+            }
+            if (!ownTitle)
+            {
+                Frame().SetSceneTitle(Translation("LKEY0"));
+            }
+        });
 }
 
 void GuiSession::Rebuild()

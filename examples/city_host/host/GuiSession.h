@@ -3,6 +3,8 @@
 
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include <functional>
+
 namespace host
 {
 
@@ -18,8 +20,12 @@ public:
     GuiSession(const GuiSession&) = delete;
     GuiSession& operator=(const GuiSession&) = delete;
 
-    /// Ends the interface and starts it again with the texts of a language.
-    void Restart(const CString& language);
+    /// Ends the interface and starts it again.
+    /// @param between what the start is to find changed; null: nothing
+    /// @throws CEGUI::Exception when the skin cannot be read; the interface is ended then
+    void Restart(const std::function<void()>& between);
+    /// The same with the texts of a language.
+    void RestartIn(const CString& language);
 
     /// Builds the frame anew, as the control buttons now are. What the mouse is over slides in again.
     void Rebuild();

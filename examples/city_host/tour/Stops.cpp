@@ -3,6 +3,7 @@
 
 #include "BarStops.h"
 #include "DocumentStops.h"
+#include "LookStops.h"
 #include "ObjectStops.h"
 #include "Places.h"
 
@@ -172,7 +173,7 @@ std::vector<TourStop> TourStops(const CString& part)
     {
         const wchar_t* name;
         std::vector<TourStop> (*stops)();
-    } parts[] = {{L"chrome", ChromeStops}, {L"bars", BarStops}, {L"objects", ObjectStops}, {L"documents", DocumentStops}};
+    } parts[] = {{L"chrome", ChromeStops}, {L"bars", BarStops}, {L"objects", ObjectStops}, {L"documents", DocumentStops}, {L"looks", LookStops}};
     std::vector<TourStop> wanted;
     for (const auto& candidate : parts)
     {

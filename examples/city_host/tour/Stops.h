@@ -28,7 +28,7 @@ struct TourStop
     osg::ref_ptr<osg::Image> (*picture)(User& user) = nullptr;
 };
 
-/// @param part "chrome", "bars", "objects" or "documents"; empty: all of them
+/// @param part "chrome", "bars", "objects", "documents" or "looks"; empty: all of them
 /// @throws std::runtime_error for any other
 std::vector<TourStop> TourStops(const CString& part);
 

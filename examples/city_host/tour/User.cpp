@@ -284,6 +284,18 @@ void User::ResizeWindow(CSize size)
     }
 }
 
+void User::MoveToMonitor(UINT density, CSize size)
+{
+    const RECT place = {0, 0, size.cx, size.cy};
+    SendMessageW(host_.Window().Main(), WM_DPICHANGED, MAKEWPARAM(density, density), reinterpret_cast<LPARAM>(&place));
+    ParkPointer();
+    Wait();
+    if (ViewSize() != size)
+    {
+        throw std::runtime_error("the window did not take the other monitor's size");
+    }
+}
+
 void User::RestoreWindow()
 {
     ShowWindow(host_.Window().Main(), SW_RESTORE);

@@ -46,6 +46,9 @@ public:
     void SelectAllInFocus();
     /// Drags the window to a size, as its edges do.
     void ResizeWindow(CSize size);
+    /// Drags the window to a monitor of another density, where it is as large to the eye: told as the system tells it.
+    /// @param density dots per inch
+    void MoveToMonitor(UINT density, CSize size);
     /// As a click into the task bar does.
     void RestoreWindow();
 
@@ -58,6 +61,7 @@ public:
     void WaitForNotes();
 
     CSize ViewSize() const;
+    CityHost& Host() { return host_; }
 
 private:
     void Send(UINT message, WPARAM wParam, CPoint point);

@@ -35,6 +35,8 @@ void HostWindow::RegisterClasses()
 HostWindow::HostWindow(CSize size, HostWindowEvents& events) : events_(events)
 {
     RegisterClasses();
+    const UINT density = DensityOf(nullptr);
+    size = CSize(MulDiv(size.cx, density, PlainDensity), MulDiv(size.cy, density, PlainDensity));
     RECT desktop = {0, 0, size.cx, size.cy};
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &desktop, 0);
     const int left = desktop.left + (desktop.right - desktop.left - size.cx) / 2;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Density.h"
+
 #include <afxwin.h>
 
 namespace host
@@ -26,6 +28,8 @@ public:
     /// The system runs a loop of its own while the user moves or resizes the window; this is called in it.
     virtual void OnModalTick() = 0;
     virtual void OnCloseRequest() = 0;
+    /// The window is on a monitor of another density now, and has its new size. @param density dots per inch
+    virtual void OnDensity(UINT density) = 0;
     /// Whether a point, in view pixels, is an empty part of the title bar: a handle to move the window by.
     virtual bool IsTitleHandle(CPoint point) const = 0;
     /// Whether the edges resize the window.
@@ -37,7 +41,7 @@ public:
 class HostWindow
 {
 public:
-    /// @param size of the window, in pixels
+    /// @param size of the window, in pixels of a monitor of 96 dots per inch; on others it is as large to the eye
     /// @param events outlives the window
     HostWindow(CSize size, HostWindowEvents& events);
     ~HostWindow();
@@ -63,6 +67,8 @@ private:
     /// What lies under a point of the screen: HTCLIENT, HTCAPTION, or an edge or corner.
     LRESULT HitTest(POINT screenPoint) const;
     void LimitSize(MINMAXINFO& limits) const;
+    /// @param place where the system suggests that the window goes, on the screen
+    void FollowDensity(UINT density, const RECT& place) const;
     /// A move over a part of the view that only the system sees, told to the view all the same.
     void PassMoveToView(POINT screenPoint) const;
     /// Moves the mouse a pixel aside and back, as far as the view is concerned.

@@ -11,8 +11,10 @@ namespace host
 namespace
 {
 
+// At 96 dots per inch.
 constexpr LONG EdgeWidth = 8; ///< pixels
 constexpr POINT SmallestSize = {640, 480};
+constexpr POINT LargestSize = {8192, 8192}; ///< pixels
 
 } // namespace
 
@@ -67,6 +69,9 @@ LRESULT HostWindow::OnMain(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         }
         events_.OnExpose();
         return 0;
+    case WM_DPICHANGED:
+        FollowDensity(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+        return 0;
     case WM_ENTERSIZEMOVE:
         inModalLoop_ = true;
         break;
@@ -98,8 +103,9 @@ LRESULT HostWindow::HitTest(POINT screenPoint) const
     GetWindowRect(main_, &window);
     if (events_.HasResizeEdges() && !IsZoomed(main_))
     {
-        const int column = screenPoint.x < window.left + EdgeWidth ? 0 : screenPoint.x >= window.right - EdgeWidth ? 2 : 1;
-        const int row = screenPoint.y < window.top + EdgeWidth ? 0 : screenPoint.y >= window.bottom - EdgeWidth ? 2 : 1;
+        const int edge = MulDiv(EdgeWidth, DensityOf(main_), PlainDensity);
+        const int column = screenPoint.x < window.left + edge ? 0 : screenPoint.x >= window.right - edge ? 2 : 1;
+        const int row = screenPoint.y < window.top + edge ? 0 : screenPoint.y >= window.bottom - edge ? 2 : 1;
         static const LRESULT edges[3][3] = {
             {HTTOPLEFT, HTTOP, HTTOPRIGHT},
             {HTLEFT, HTCLIENT, HTRIGHT},
@@ -113,9 +119,19 @@ LRESULT HostWindow::HitTest(POINT screenPoint) const
     return events_.IsTitleHandle(CPoint(screenPoint.x - window.left, screenPoint.y - window.top)) ? HTCAPTION : HTCLIENT;
 }
 
+void HostWindow::FollowDensity(UINT density, const RECT& place) const
+{
+    SetWindowPos(main_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    events_.OnDensity(density);
+}
+
 void HostWindow::LimitSize(MINMAXINFO& limits) const
 {
-    limits.ptMinTrackSize = SmallestSize;
+    const UINT density = DensityOf(main_);
+    limits.ptMinTrackSize = {MulDiv(SmallestSize.x, density, PlainDensity), MulDiv(SmallestSize.y, density, PlainDensity)};
+    // Pictures for monitors larger than this one are made here, too.
+    limits.ptMaxTrackSize = LargestSize;
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof(monitor);
     if (GetMonitorInfoW(MonitorFromWindow(main_, MONITOR_DEFAULTTONEAREST), &monitor))
