@@ -173,7 +173,11 @@ std::vector<TourStop> TourStops(const CString& part)
     {
         const wchar_t* name;
         std::vector<TourStop> (*stops)();
-    } parts[] = {{L"chrome", ChromeStops}, {L"bars", BarStops}, {L"objects", ObjectStops}, {L"documents", DocumentStops}, {L"looks", LookStops}};
+    } parts[] = {{L"chrome", ChromeStops},
+                 {L"bars", BarStops},
+                 {L"objects", ObjectStops},
+                 {L"documents", DocumentStops},
+                 {L"looks", LookStops}};
     std::vector<TourStop> wanted;
     for (const auto& candidate : parts)
     {
