@@ -13,11 +13,14 @@ target_include_directories(NxOsgCeGui INTERFACE $<INSTALL_INTERFACE:${CMAKE_INST
 target_include_directories(NxServices INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/services>)
 
 set(modules NxServices NxOsgCeGui)
-if(NX_WINELIB)
-    list(APPEND modules NxMfc osgViewerWin32)
+if(TARGET NxMfc)
+    list(APPEND modules NxMfc)
     install(DIRECTORY mfc/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/mfc FILES_MATCHING PATTERN *.h)
-    install(DIRECTORY ${CMAKE_BINARY_DIR}/osg-win32/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/osg-win32)
     target_include_directories(NxMfc INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/mfc>)
+endif()
+if(NX_WINELIB)
+    list(APPEND modules osgViewerWin32)
+    install(DIRECTORY ${CMAKE_BINARY_DIR}/osg-win32/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/osg-win32)
     target_include_directories(osgViewerWin32 SYSTEM INTERFACE
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/NxOsgCeGui/osg-win32>)
     foreach(module ${modules})

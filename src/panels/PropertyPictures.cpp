@@ -15,9 +15,9 @@ namespace
 {
 using namespace PropertyPictures;
 
-constexpr gp::GpRect HeaderSlice = {0, 0, PanelWidth, HeaderHeight};
-constexpr gp::GpRect RowSlice = {0, 38, PanelWidth, RowHeight};
-constexpr gp::GpRect FooterSlice = {0, 64, PanelWidth, FooterHeight};
+const gp::GpRect HeaderSlice = {0, 0, PanelWidth, HeaderHeight};
+const gp::GpRect RowSlice = {0, 38, PanelWidth, RowHeight};
+const gp::GpRect FooterSlice = {0, 64, PanelWidth, FooterHeight};
 constexpr float CaptionX = 16;
 constexpr float CaptionY = 12;
 constexpr float NameX = 35;

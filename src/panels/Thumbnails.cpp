@@ -20,8 +20,8 @@ namespace
 // Layout on the 126 x 96 canvas, pixels.
 constexpr int CanvasWidth = 126;
 constexpr int CanvasHeight = 96;
-constexpr gp::GpRect PictureRect = {3, 3, 120, 90};
-constexpr gp::GpRect PlayMarkRect = {40, 24, 41, 41};
+const gp::GpRect PictureRect = {3, 3, 120, 90};
+const gp::GpRect PlayMarkRect = {40, 24, 41, 41};
 constexpr int PlateRight = 123;
 constexpr int PlateBottom = 93;
 constexpr int PlateMargin = 7;
