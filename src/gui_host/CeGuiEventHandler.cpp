@@ -142,9 +142,7 @@ bool Scroll(const Event& ea)
     default:
         return false;
     }
-    const bool used = Gui().injectMouseWheelChange(change);
-    // The root sheet takes every wheel for its own, but over it the wheel is the scene's.
-    return used && Gui().getWindowContainingMouse() != Gui().getRootWindow();
+    return Gui().injectMouseWheelChange(change);
 }
 
 bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)

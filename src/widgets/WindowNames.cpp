@@ -33,6 +33,9 @@ CEGUI::Window* Create(const char* type, const CEGUI::String& name)
     {
         window->setUserString(GivenName, name);
     }
+    // What a window leaves unhandled goes to its parent, up to the root: a double click on the bare title bar is one on the
+    // scene. CEGUI 0.8 leaves this to each window, and off.
+    window->setMouseInputPropagationEnabled(true);
     return window;
 }
 

@@ -66,6 +66,26 @@ TEST_F(FullSceneInputTest, a_double_click_on_the_scene_enters_and_leaves)
     EXPECT_TRUE(Host().TakeCodes().empty());
 }
 
+TEST_F(FullSceneInputTest, a_double_click_on_the_bare_title_bar_goes_through_to_the_scene)
+{
+    Host().DoubleClick(400, 25);
+    EXPECT_TRUE(Frame().IsFullScene());
+    EXPECT_TRUE(Host().TakeCodes().empty());
+}
+
+TEST_F(FullSceneInputTest, a_double_click_on_the_tool_bar_or_the_list_is_kept_from_the_scene)
+{
+    Show({Record(L"one")});
+    SlideIn(20, 590);
+    ASSERT_TRUE(Visible("TavBotCtrlFrame"));
+    Host().DoubleClick(110, 515);
+    EXPECT_FALSE(Frame().IsFullScene());
+    SlideIn(5, 200);
+    ASSERT_TRUE(Visible("TavLeftCtrlFrame"));
+    Host().DoubleClick(5, 200);
+    EXPECT_FALSE(Frame().IsFullScene());
+}
+
 TEST_F(FullSceneInputTest, a_double_click_with_the_right_button_does_nothing)
 {
     Host().MoveMouse(410, 300);

@@ -123,8 +123,15 @@ TEST_F(Handle, left_press_and_drag_reach_the_viewer_with_button_edit_mode_off)
     EXPECT_FALSE(Give(Event::DRAG, Event::LEFT_MOUSE_BUTTON));
 }
 
-TEST_F(Handle, wheel_over_a_window_is_consumed_and_over_the_bare_scene_reaches_the_viewer)
+TEST_F(Handle, wheel_is_consumed_by_a_list_that_scrolls_and_reaches_the_viewer_from_everywhere_else)
 {
+    std::vector<BTN_UNIT> records(20);
+    for (std::size_t i = 0; i < records.size(); ++i)
+    {
+        records[i].name.Format(L"record %d", static_cast<int>(i));
+    }
+    Frame().SetCtrlBtnInfo(records);
+    Rebuild();
     for (const Event::ScrollingMotion motion : {Event::SCROLL_UP, Event::SCROLL_DOWN})
     {
         event->setScrollingMotion(motion);
@@ -133,7 +140,15 @@ TEST_F(Handle, wheel_over_a_window_is_consumed_and_over_the_bare_scene_reaches_t
         EXPECT_FALSE(Give(Event::SCROLL)) << "scene, " << motion;
         event->setY(ViewHeight - 20);
         Give(Event::MOVE);
-        EXPECT_TRUE(Give(Event::SCROLL)) << "title bar, " << motion;
+        EXPECT_FALSE(Give(Event::SCROLL)) << "title bar, " << motion;
+        event->setX(80);
+        event->setY(200);
+        Window("TavLeftCtrlFrame").setPosition(CEGUI::UVector2());
+        Give(Event::MOVE);
+        EXPECT_TRUE(Give(Event::SCROLL)) << "list, " << motion;
+        EXPECT_TRUE(Give(Event::SCROLL)) << "list at its end, " << motion;
+        event->setX(300);
+        Give(Event::MOVE);
     }
     for (const Event::ScrollingMotion motion : {Event::SCROLL_NONE, Event::SCROLL_LEFT, Event::SCROLL_RIGHT, Event::SCROLL_2D})
     {
