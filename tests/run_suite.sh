@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs a test program in a fresh folder with a copy of the application's data in "app".
+# Runs a test program in a fresh folder with a copy of the application's data in "app", on a Wine prefix of its own.
 #   run_suite.sh PROGRAM.exe APP_DATA FOLDER [GOOGLETEST ARGUMENTS...]
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -11,5 +11,10 @@ shift 3
 rm -rf "$folder"
 mkdir -p "$folder"
 cp -R "$data" "$folder/app"
+base=$(cd "$(dirname "$program")/.." && pwd)/wineprefix
+if [ -z "${WINEPREFIX:-}" ] && [ -e "$base/fresh" ]; then
+    "$here/../platform/winelib/copy_prefix.sh" "$base" "$folder/prefix"
+    export WINEPREFIX=$folder/prefix
+fi
 cd "$folder"
 exec "$here/../platform/winelib/run_wine.sh" "$program" "$@"

@@ -8,7 +8,8 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 build=$root/build
 packages=(wine wine64 libwine-dev wine64-tools g++ cmake ninja-build pkg-config libopenscenegraph-dev libcegui-mk2-dev
     libglew-dev libglm-dev libgl1-mesa-dri libx11-dev libxcomposite1 libxcursor1 libxi6 libxrandr2 xvfb xauth imagemagick
-    libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core dpkg-dev)
+    libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core fonts-wine dpkg-dev
+    clang-format-14)
 
 say()
 {
@@ -80,12 +81,20 @@ build_targets()
 make_prefix()
 {
     . "$root/platform/winelib/wine_env.sh" "$build/wineprefix"
-    [ ! -e "$WINEPREFIX/ready" ] || return 0
+    [ ! -e "$WINEPREFIX/fresh" ] || return 0
     say "making the Wine prefix (about 15 seconds)"
     local display=()
     [ -n "${DISPLAY:-}" ] || display=("$root/platform/winelib/with_display.sh")
     "${display[@]}" wine wineboot --init >"$build/wineboot.log" 2>&1 || fail "the Wine prefix (see $build/wineboot.log)"
-    touch "$WINEPREFIX/ready"
+    # Programs here run on displays without a window manager; run_wine.sh tells what that means.
+    "${display[@]}" wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$build/wineboot.log" 2>&1 ||
+        fail "the Wine prefix (see $build/wineboot.log)"
+    echo N >"$WINEPREFIX/managed"
+    # The registry is written when the last program has gone.
+    wineserver -w
+    mkdir "$WINEPREFIX/fresh.new"
+    cp "$WINEPREFIX"/*.reg "$WINEPREFIX/managed" "$WINEPREFIX/fresh.new"
+    mv "$WINEPREFIX/fresh.new" "$WINEPREFIX/fresh"
 }
 
 mkdir -p "$build"
