@@ -3,13 +3,17 @@
 
 #include "Places.h"
 
+#include <deque>
+#include <iterator>
+#include <string>
+
 namespace host
 {
 namespace
 {
 
 /// Milliseconds, of the ten ticks of 30 that a bar takes; drawing the frame of the picture takes its share.
-constexpr DWORD PartOfASlide = 30;
+constexpr DWORD PartOfASlide = 60;
 constexpr DWORD Flight = 1200;
 
 void MoveAway(User& user)
@@ -94,9 +98,11 @@ void HideList(User& user)
 
 void SlideToolsOut(User& user)
 {
+    // With no bar in sight: one that has begun to slide out does so to the end, whatever the mouse does.
+    user.MoveTo(Centre(user));
     user.Key('S');
     user.WaitForNotes();
-    HoverTool(user, 2);
+    user.MoveTo(Tool(user, 2));
     user.Wait();
     user.MoveTo(Centre(user));
     user.LetPass(PartOfASlide);
@@ -113,7 +119,7 @@ void Grow(User& user)
 {
     user.WaitForNotes();
     user.ResizeWindow(CSize(1920, 1080));
-    OpenList(user);
+    user.MoveTo(Centre(user));
 }
 
 void Shrink(User& user)
@@ -122,9 +128,8 @@ void Shrink(User& user)
     user.MoveTo(Centre(user));
 }
 
-} // namespace
-
-std::vector<TourStop> BarStops()
+/// Each tool hovered and pushed, the list scrolled and an entry of it chosen.
+std::vector<TourStop> ToolAndListStops()
 {
     return {
         {"tools-list", "The tool bar has slid in at the lower edge. The list's tool is down, since the list is on.", Hover<1>,
@@ -140,16 +145,46 @@ std::vector<TourStop> BarStops()
         {"tools-data-pushed", "The data-management tool held down.", HoldTool<5>, ReleaseBetween},
         {"tools-publish", "The mouse over the publish tool, which only the full user has.", Hover<6>, nullptr},
         {"tools-publish-pushed", "The publish tool held down.", HoldTool<6>, ReleaseBetween},
-        {"evening", "The effect-environment tool was clicked: the evening has come.", ClickEnvironment, EndDay},
         {"list", "The left list: one thumbnail for each view and video of the city.", OpenList, nullptr},
         {"list-scrolled", "The list scrolled down with the wheel.", ScrollList, ScrollBack},
-        {"list-chosen", "The fourth entry was clicked: it is marked, and the camera has flown there.", ChooseFourth, nullptr},
+        {"list-chosen", "The fourth entry was clicked: it is marked, and the camera has flown there.", ChooseFourth, MoveAway},
+    };
+}
+
+/// The same once more in the largest window, with full scene.
+std::vector<TourStop> LargeStops()
+{
+    std::vector<TourStop> stops = ToolAndListStops();
+    const std::vector<TourStop> fullScene = FullSceneStops();
+    stops.insert(stops.end(), fullScene.begin(), fullScene.end());
+    // The stops refer to their texts, which therefore last as long as the program.
+    static std::deque<std::string> texts;
+    for (TourStop& stop : stops)
+    {
+        stop.id = texts.emplace_back(std::string(stop.id) + "-1920x1080").c_str();
+        stop.caption = texts.emplace_back(std::string(stop.caption) + " In a window of 1920 x 1080.").c_str();
+    }
+    stops.insert(stops.begin(), {"hidden-1920x1080", "No bar in sight in a window of 1920 x 1080.", Grow, nullptr});
+    stops.push_back({"hidden-1280x800", "And back to 1280 x 800.", Shrink, nullptr});
+    return stops;
+}
+
+} // namespace
+
+std::vector<TourStop> BarStops()
+{
+    std::vector<TourStop> stops = ToolAndListStops();
+    const TourStop more[] = {
+        {"evening", "The effect-environment tool was clicked: the evening has come.", ClickEnvironment, EndDay},
         {"list-page-down", "Page Down takes the next view.", PageDown, MoveAway},
         {"list-off", "The list's tool was clicked: the list is off, and the tool shows it.", HideList, HideList},
         {"slide-out", "With the slide-out setting on, the tool bar leaves at the lower edge; here it is on its way.",
          SlideToolsOut, EndSliding, true},
-        {"list-1920x1080", "The left list in a window of 1920 x 1080.", Grow, Shrink},
     };
+    stops.insert(stops.end(), std::begin(more), std::end(more));
+    const std::vector<TourStop> large = LargeStops();
+    stops.insert(stops.end(), large.begin(), large.end());
+    return stops;
 }
 
 } // namespace host

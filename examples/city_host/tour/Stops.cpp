@@ -7,6 +7,7 @@
 #include "ObjectStops.h"
 #include "Places.h"
 
+#include <iterator>
 #include <stdexcept>
 
 namespace host
@@ -136,7 +137,7 @@ void ResizeAndTurn(User& user)
 /// The title bar, the scene, and the window's sizes.
 std::vector<TourStop> ChromeStops()
 {
-    return {
+    std::vector<TourStop> stops = {
         {"city", "The city with the frame of a full user: title bar with logo, title and window buttons, and thin borders.",
          MoveAway, nullptr},
         {"close-hover", "The mouse over the close button.", Hover<CloseFromRight>, nullptr},
@@ -156,16 +157,28 @@ std::vector<TourStop> ChromeStops()
         {"title-english", "The same frame in English: the key L starts the interface again in the other language.",
          SwitchLanguage, nullptr},
         {"title-chinese", "And in Chinese again.", SwitchLanguage, nullptr},
-        {"full-scene", "Full scene, by a double click into the scene: nothing but the city.", EnterFullScene, nullptr},
-        {"full-scene-title", "The title bar slides in at the upper edge of the full scene, with the button that leaves it.",
-         SlideTitleIn, LeaveFullScene},
+    };
+    const std::vector<TourStop> fullScene = FullSceneStops();
+    stops.insert(stops.end(), fullScene.begin(), fullScene.end());
+    const TourStop sizes[] = {
         {"size-640x480", "The window resized to 640 x 480.", Resize<640, 480>, nullptr},
         {"size-1920x1080", "The window resized to 1920 x 1080.", Resize<1920, 1080>, nullptr},
         {"size-1280x800", "The window resized to 1280 x 800, and the scene turned and pushed along.", ResizeAndTurn, nullptr},
     };
+    stops.insert(stops.end(), std::begin(sizes), std::end(sizes));
+    return stops;
 }
 
 } // namespace
+
+std::vector<TourStop> FullSceneStops()
+{
+    return {
+        {"full-scene", "Full scene, by a double click into the scene: nothing but the city.", EnterFullScene, nullptr},
+        {"full-scene-title", "The title bar slides in at the upper edge of the full scene, with the button that leaves it.",
+         SlideTitleIn, LeaveFullScene},
+    };
+}
 
 std::vector<TourStop> TourStops(const CString& part)
 {

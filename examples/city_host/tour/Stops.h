@@ -28,6 +28,9 @@ struct TourStop
     osg::ref_ptr<osg::Image> (*picture)(User& user) = nullptr;
 };
 
+/// Into full scene and out again, at whatever size the window has.
+std::vector<TourStop> FullSceneStops();
+
 /// @param part "chrome", "bars", "objects", "documents" or "looks"; empty: all of them
 /// @throws std::runtime_error for any other
 std::vector<TourStop> TourStops(const CString& part);
