@@ -2,10 +2,10 @@
 #include "StartScreen.h"
 
 #include "../host/Language.h"
+#include "../host/OverlayCamera.h"
 #include "../toast/Text.h"
 #include "PictureFile.h"
 
-#include <osg/BlendFunc>
 #include <osg/Texture2D>
 
 namespace host
@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr double StaySeconds = 4.0;
+constexpr int OverNotes = 2; ///< in the order of what is drawn over the scene
 constexpr int HintPixels = 14;
 constexpr int HintBelow = 28; ///< pixels between page and hint
 /// A view of this many pictures' width shows the page at twice its size.
@@ -73,29 +74,10 @@ void PlaceQuad(osg::Geometry& quad, int left, int bottom, CSize size)
     quad.dirtyBound();
 }
 
-osg::ref_ptr<osg::Camera> MakeCamera()
-{
-    const osg::ref_ptr<osg::Camera> camera = new osg::Camera;
-    camera->setName("start page");
-    camera->setReferenceFrame(osg::Transform::ABSOLUTE_RF);
-    camera->setViewMatrix(osg::Matrixd::identity());
-    camera->setClearMask(0);
-    // After the interface and the notes.
-    camera->setRenderOrder(osg::Camera::POST_RENDER, 2);
-    camera->setAllowEventFocus(false);
-    camera->setComputeNearFarMode(osg::CullSettings::DO_NOT_COMPUTE_NEAR_FAR);
-    osg::StateSet& state = *camera->getOrCreateStateSet();
-    state.setMode(GL_LIGHTING, osg::StateAttribute::OFF);
-    state.setMode(GL_DEPTH_TEST, osg::StateAttribute::OFF);
-    state.setMode(GL_FOG, osg::StateAttribute::OFF);
-    state.setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-    state.setAttributeAndModes(new osg::BlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA));
-    return camera;
-}
-
 } // namespace
 
-StartScreen::StartScreen(osg::Group& scene, const CString& picture) : scene_(&scene), camera_(MakeCamera())
+StartScreen::StartScreen(osg::Group& scene, const CString& picture)
+    : scene_(&scene), camera_(NewOverlayCamera("start page", OverNotes))
 {
     const osg::ref_ptr<osg::Image> page = ReadPictureFile(picture);
     const osg::ref_ptr<osg::Image> hint = DrawHint();

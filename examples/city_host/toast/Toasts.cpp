@@ -4,10 +4,9 @@
 #include "Toasts.h"
 
 #include "../host/Language.h"
+#include "../host/OverlayCamera.h"
 #include "ToastPicture.h"
 
-#include <osg/BlendFunc>
-#include <osg/Depth>
 #include <osg/Texture2D>
 
 #include <algorithm>
@@ -21,6 +20,7 @@ constexpr double ComeSeconds = 0.12;
 constexpr double StaySeconds = 2.6;
 constexpr double EndSeconds = 3.0;
 constexpr std::size_t MostNotes = 4;
+constexpr int OverInterface = 1; ///< in the order of what is drawn over the scene
 // Of the cards, in view pixels; their shadows reach further.
 constexpr int RightMargin = 20;
 constexpr int BottomMargin = 22;
@@ -33,29 +33,9 @@ double AlphaAt(double age)
     return std::clamp(std::min(age / ComeSeconds, (EndSeconds - age) / (EndSeconds - StaySeconds)), 0.0, 1.0);
 }
 
-osg::ref_ptr<osg::Camera> MakeOverlayCamera()
-{
-    const osg::ref_ptr<osg::Camera> camera = new osg::Camera;
-    camera->setName("notes");
-    camera->setReferenceFrame(osg::Transform::ABSOLUTE_RF);
-    camera->setViewMatrix(osg::Matrixd::identity());
-    camera->setClearMask(0);
-    // After the interface, which is drawn at 0.
-    camera->setRenderOrder(osg::Camera::POST_RENDER, 1);
-    camera->setAllowEventFocus(false);
-    camera->setComputeNearFarMode(osg::CullSettings::DO_NOT_COMPUTE_NEAR_FAR);
-    osg::StateSet& state = *camera->getOrCreateStateSet();
-    state.setMode(GL_LIGHTING, osg::StateAttribute::OFF);
-    state.setMode(GL_DEPTH_TEST, osg::StateAttribute::OFF);
-    state.setMode(GL_FOG, osg::StateAttribute::OFF);
-    state.setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-    state.setAttributeAndModes(new osg::BlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA));
-    return camera;
-}
-
 } // namespace
 
-Toasts::Toasts(osg::Group& scene) : camera_(MakeOverlayCamera())
+Toasts::Toasts(osg::Group& scene) : camera_(NewOverlayCamera("notes", OverInterface))
 {
     scene.addChild(camera_);
 }
