@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Full-scene mode: what is where in it and after it.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 
 #include <CEGUI/Window.h>
@@ -7,7 +9,6 @@
 namespace
 {
 const wchar_t* const Title = L"TavTitleBackground";
-const wchar_t* const List = L"TavLeftCtrlFrame";
 const wchar_t* const Tools = L"TavBotCtrlFrame";
 
 /// Rectangles of title bar, list and tool bar, each with its hot rectangle.
@@ -38,8 +39,8 @@ class FullSceneTest : public FrameTest
 protected:
     static Layout Now()
     {
-        return {Place("TavTitleBackground"), Text(Bar(Title).triggerRect), Place("TavLeftCtrlFrame"),
-                Text(Bar(List).triggerRect), Place("TavBotCtrlFrame"),     Text(Bar(Tools).triggerRect)};
+        return {Place("TavTitleBackground"),    Text(Bar(Title).triggerRect), Place("TavLeftCtrlFrame"),
+                Text(Bar(ListKey).triggerRect), Place("TavBotCtrlFrame"),     Text(Bar(Tools).triggerRect)};
     }
 
     /// The windows that are shown, of those that the mode is about.

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The left list: where it and its entries lie, and when it is seen.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 
 #include <CEGUI/Window.h>
 
 namespace
 {
-const char* const List = "TavLeftCtrlFrame";
-const wchar_t* const ListKey = L"TavLeftCtrlFrame";
-
 std::vector<BTN_UNIT> Records(int count)
 {
     std::vector<BTN_UNIT> records;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The first tool, which switches the left list on and off.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 #include "widgets/Pictures.h"
 
@@ -7,9 +9,6 @@
 
 namespace
 {
-const char* const List = "TavLeftCtrlFrame";
-const wchar_t* const ListKey = L"TavLeftCtrlFrame";
-const char* const ToolBar = "TavBotCtrlFrame";
 const char* const Tool = "TavToolButtom_1";
 } // namespace
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A list of a thousand entries, scrolled in every way.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 
 #include <CEGUI/Window.h>
@@ -8,7 +10,6 @@
 
 namespace
 {
-const wchar_t* const List = L"TavLeftCtrlFrame";
 constexpr int Count = 1000;
 constexpr int Top = 50;
 constexpr int Bottom = 598;
@@ -49,7 +50,7 @@ protected:
 
     static RECT EntryRect(int index)
     {
-        const CEGUI::Rectf area = Bar(List).items[static_cast<std::size_t>(index)].window->getUnclippedOuterRect().get();
+        const CEGUI::Rectf area = Bar(ListKey).items[static_cast<std::size_t>(index)].window->getUnclippedOuterRect().get();
         const auto whole = [](float value) { return static_cast<LONG>(std::lround(value)); };
         return {whole(area.left()), whole(area.top()), whole(area.right()), whole(area.bottom())};
     }
@@ -63,7 +64,7 @@ protected:
         EXPECT_GE(rect.top, Top);
         EXPECT_LE(rect.bottom, Bottom);
         EXPECT_EQ(rect.bottom - rect.top, 96);
-        const CEGUI::Window& window = *Bar(List).items[static_cast<std::size_t>(index)].window;
+        const CEGUI::Window& window = *Bar(ListKey).items[static_cast<std::size_t>(index)].window;
         EXPECT_EQ(window.getProperty("NormalImage"), "new_skin/TavGuiButtonImg" + std::to_string(index) + "_P.bmp/full_image");
     }
 
@@ -94,7 +95,7 @@ bool LongListTest::built_ = false;
 
 TEST_F(LongListTest, all_entries_are_there_below_each_other)
 {
-    ASSERT_EQ(Bar(List).items.size(), std::size_t(Count));
+    ASSERT_EQ(Bar(ListKey).items.size(), std::size_t(Count));
     EXPECT_EQ(Text(EntryRect(0)), "11,63 - 137,159");
     EXPECT_NEAR(EntryRect(999).top, Top + FirstY + 999 * Pitch, 1);
     // 109013 pixels of entries in 548: the thumb is 548 * 548 / 109013 pixels long.

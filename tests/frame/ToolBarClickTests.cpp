@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the tools of the bottom bar do when they are clicked.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 
 #include <CEGUI/InputEvent.h>
@@ -8,8 +10,6 @@
 
 namespace
 {
-const char* const ToolBar = "TavBotCtrlFrame";
-
 using Codes = std::vector<WPARAM>;
 
 /// The middle of a tool, counted from 1.

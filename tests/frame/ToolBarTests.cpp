@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The bottom tool bar: where it lies, when it is seen, and what its tools look like.
+#include "Names.h"
+
 #include "support/FrameTest.h"
 #include "widgets/Pictures.h"
 
@@ -13,7 +15,6 @@
 
 namespace
 {
-const char* const ToolBar = "TavBotCtrlFrame";
 const wchar_t* const ToolBarKey = L"TavBotCtrlFrame";
 constexpr Pixel Red = {255, 0, 0};
 constexpr Pixel Green = {0, 255, 0};

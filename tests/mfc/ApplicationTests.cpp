@@ -40,11 +40,12 @@ public:
 
 // Global, as an application is: its constructor must get along without Wine.
 Application* const early = new Application;
+const CWinApp* const registeredEarly = AfxGetApp();
 } // namespace
 
 TEST(Application, RegistersItselfAndGoes)
 {
-    EXPECT_EQ(AfxGetApp(), early);
+    EXPECT_EQ(registeredEarly, early);
     delete early;
     EXPECT_EQ(AfxGetApp(), nullptr);
     EXPECT_EQ(AfxGetThread(), nullptr);

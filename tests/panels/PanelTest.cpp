@@ -22,6 +22,16 @@ Rows NumberedRows(int count)
     return rows;
 }
 
+CString Repeated(const wchar_t* piece, int times)
+{
+    CString text;
+    for (int i = 0; i < times; ++i)
+    {
+        text += piece;
+    }
+    return text;
+}
+
 LanguageSpoken::LanguageSpoken(const char* language)
 {
     CParamConfig::getInstance()->setStringParam("Language", language);

@@ -12,6 +12,9 @@ using Rows = CeGuiMainFrame::PropertyRows;
 /// Rows "name 0", "value 0", and so on.
 Rows NumberedRows(int count);
 
+/// A piece of text so many times.
+CString Repeated(const wchar_t* piece, int times);
+
 /// Another language for the object's life.
 class LanguageSpoken
 {

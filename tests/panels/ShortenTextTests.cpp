@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Texts cut to a column's width, against a loop that drops one character at a time.
-#include "support/FrameTest.h"
+#include "PanelTest.h"
 
 #include <panels/ShortenText.h>
 
@@ -40,16 +40,6 @@ CString Naive(const CountingMeasurer& measurer, const CString& text, float maxWi
         rest = WithoutLastCharacter(rest);
     }
     return rest + L"...";
-}
-
-CString Repeated(const wchar_t* piece, int times)
-{
-    CString text;
-    for (int i = 0; i < times; ++i)
-    {
-        text += piece;
-    }
-    return text;
 }
 
 /// Growing texts of one kind.

@@ -4,16 +4,6 @@
 
 class TooltipEdgeTest : public PanelTest
 {
-protected:
-    static CString Repeated(const wchar_t* piece, int times)
-    {
-        CString text;
-        for (int i = 0; i < times; ++i)
-        {
-            text += piece;
-        }
-        return text;
-    }
 };
 
 TEST_F(TooltipEdgeTest, a_rows_tooltip_is_not_kept_within_the_view)

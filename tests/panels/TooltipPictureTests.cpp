@@ -19,16 +19,6 @@ constexpr std::uint32_t Fill = 0xB0717A8C;
 constexpr std::uint32_t TextColor = 0xFFF1F1F1;
 const wchar_t* const Font = L"Noto Sans CJK SC";
 
-CString Repeated(const wchar_t* piece, int times)
-{
-    CString text;
-    for (int i = 0; i < times; ++i)
-    {
-        text += piece;
-    }
-    return text;
-}
-
 gp::RectF Measured(const CString& text)
 {
     return TextMeasurer(Font, 12, gp::TextRenderingHintClearTypeGridFit).Box(text);

@@ -10,7 +10,7 @@
 
 namespace
 {
-class Bytes
+class ByteStream
 {
 public:
     void U16(std::uint32_t value)
@@ -26,12 +26,12 @@ public:
     std::vector<std::uint8_t> bytes;
 };
 
-Bytes BmpHeader(const Argb& picture, int height, std::uint32_t bits, std::uint32_t colors)
+ByteStream BmpHeader(const Argb& picture, int height, std::uint32_t bits, std::uint32_t colors)
 {
     const std::uint32_t offset = 14 + 40 + colors * 4;
     const std::uint32_t row = (static_cast<std::uint32_t>(picture.width) * bits + 31) / 32 * 4;
     const std::uint32_t size = row * static_cast<std::uint32_t>(picture.height);
-    Bytes out;
+    ByteStream out;
     out.U16(0x4D42);
     out.U32(offset + size);
     out.U32(0);
@@ -63,7 +63,7 @@ Argb Solid(int width, int height, std::uint32_t color)
 
 std::vector<std::uint8_t> Bmp32(const Argb& picture, bool topDown)
 {
-    Bytes out = BmpHeader(picture, topDown ? -picture.height : picture.height, 32, 0);
+    ByteStream out = BmpHeader(picture, topDown ? -picture.height : picture.height, 32, 0);
     for (int row = 0; row < picture.height; ++row)
     {
         for (int x = 0; x < picture.width; ++x)
@@ -76,7 +76,7 @@ std::vector<std::uint8_t> Bmp32(const Argb& picture, bool topDown)
 
 std::vector<std::uint8_t> Bmp24(const Argb& picture)
 {
-    Bytes out = BmpHeader(picture, picture.height, 24, 0);
+    ByteStream out = BmpHeader(picture, picture.height, 24, 0);
     for (int y = picture.height - 1; y >= 0; --y)
     {
         for (int x = 0; x < picture.width; ++x)
@@ -95,7 +95,7 @@ std::vector<std::uint8_t> Bmp8(const Argb& picture)
     std::vector<std::uint32_t> palette = picture.pixels;
     std::sort(palette.begin(), palette.end());
     palette.erase(std::unique(palette.begin(), palette.end()), palette.end());
-    Bytes out = BmpHeader(picture, picture.height, 8, static_cast<std::uint32_t>(palette.size()));
+    ByteStream out = BmpHeader(picture, picture.height, 8, static_cast<std::uint32_t>(palette.size()));
     for (const std::uint32_t color : palette)
     {
         out.U32(color & 0xFFFFFF);

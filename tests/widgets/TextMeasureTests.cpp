@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The size of texts before they are drawn.
+#include "Fonts.h"
 #include "Sheet.h"
 
 #include <widgets/Gdiplus.h>
@@ -9,9 +10,6 @@
 
 namespace
 {
-const wchar_t* const Latin = L"DejaVu Sans";
-const wchar_t* const Chinese = L"Noto Sans CJK SC";
-
 class TextMeasure : public SheetTest
 {
 protected:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The files that texts are drawn into, and failures.
+#include "Fonts.h"
 #include "Sheet.h"
 
 #include <widgets/TextPicture.h>
@@ -8,8 +9,6 @@
 
 namespace
 {
-const wchar_t* const Latin = L"DejaVu Sans";
-
 class TextPictureFile : public SheetTest
 {
 protected:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Texts drawn into picture files.
+#include "Fonts.h"
 #include "Sheet.h"
 
 #include <widgets/Gdiplus.h>
@@ -9,8 +10,6 @@
 
 namespace
 {
-const wchar_t* const Latin = L"DejaVu Sans";
-const wchar_t* const Chinese = L"Noto Sans CJK SC";
 constexpr std::uint32_t OutsideGlyphs = 0x004D4D4A;
 
 class TextPicture : public SheetTest

@@ -3,6 +3,8 @@
 
 #include "Shapes.h"
 
+#include <osg/Math>
+
 #include <cmath>
 
 namespace city
@@ -16,7 +18,6 @@ constexpr double kDeckDepth = 1.4;
 constexpr double kSidewalk = 3.2;
 constexpr double kAnchor = 2.0; ///< how far the deck lies on the banks
 constexpr int kMiddleStreet = 9;
-constexpr double kPi = 3.14159265358979;
 
 const Colour kDeck(.52f, .52f, .53f);
 const Colour kWalk(.82f, .79f, .74f);
@@ -82,7 +83,7 @@ void AddArches(Site& site, const Span& span)
     for (const double side : {-1.0, 1.0})
     {
         const double across = side * (span.half - kSidewalk * 0.5);
-        const auto arch = [&](double t) { return span.At(across, t, 17.0 * std::sin(kPi * t) - 1.0); };
+        const auto arch = [&](double t) { return span.At(across, t, 17.0 * std::sin(osg::PI * t) - 1.0); };
         constexpr int kArchPieces = 14;
         for (int i = 0; i < kArchPieces; ++i)
         {

@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr int kCell = 64; ///< pixels of one bay by one floor
-constexpr int kPicture = kCell * kFacadeBays;
+constexpr int kFacadePicture = kCell * kFacadeBays;
 
 /// One bay of one floor. The window's edges are pixels of the cell, from its bottom left.
 struct Style
@@ -226,7 +226,7 @@ osg::ref_ptr<osg::Image> PaintFacade(Surface facade)
 {
     const Style& style = StyleOf(facade);
     Random random(100u + static_cast<unsigned>(facade));
-    Canvas canvas(kPicture, kPicture, style.wall);
+    Canvas canvas(kFacadePicture, kFacadePicture, style.wall);
     canvas.Clouds(random, 16, 0.025f);
     for (int floor = 0; floor < kFacadeBays; ++floor)
         for (int bay = 0; bay < kFacadeBays; ++bay)
@@ -252,7 +252,7 @@ osg::ref_ptr<osg::Image> PaintFacadeLights(Surface facade, double litShare, floa
     static const Colour kOffice[] = {{1.0f, .90f, .70f}, {.86f, .92f, .96f}, {1.0f, .84f, .58f}};
     const Style& style = StyleOf(facade);
     Random random(200u + static_cast<unsigned>(facade));
-    Canvas canvas(kPicture, kPicture, Colour());
+    Canvas canvas(kFacadePicture, kFacadePicture, Colour());
     for (int floor = 0; floor < kFacadeBays; ++floor)
     {
         const bool busy = random.Chance(0.35);

@@ -11,12 +11,12 @@ namespace city
 namespace
 {
 
-constexpr int kPicture = 256;
+constexpr int kGroundPicture = 256;
 const Colour kNeutral(0.96f, 0.96f, 0.96f);
 
 Canvas Mottled(Random& random, float amount, float grain)
 {
-    Canvas canvas(kPicture, kPicture, kNeutral);
+    Canvas canvas(kGroundPicture, kGroundPicture, kNeutral);
     canvas.Clouds(random, 4, amount);
     canvas.Clouds(random, 16, amount * 0.7f);
     canvas.Clouds(random, 64, amount * 0.5f);
@@ -36,20 +36,20 @@ void Joints(Canvas& canvas, int step, float shade)
 /// The width of the picture is the width of the road: edge lines, a dashed lane line each side, a double middle line.
 Canvas PaintRoad(Random& random)
 {
-    Canvas canvas(kPicture, kPicture, Colour(0.93f, 0.93f, 0.94f));
+    Canvas canvas(kGroundPicture, kGroundPicture, Colour(0.93f, 0.93f, 0.94f));
     canvas.Clouds(random, 32, 0.03f);
     canvas.Grain(random, 0.03f);
     const Colour line(1.55f, 1.53f, 1.45f);
     const auto upright = [&](double place, int width, int from, int to)
     {
-        const int x = static_cast<int>(place * kPicture) - width / 2;
+        const int x = static_cast<int>(place * kGroundPicture) - width / 2;
         canvas.Rectangle(x, from, x + width, to, line);
     };
-    upright(0.035, 3, 0, kPicture);
-    upright(0.965, 3, 0, kPicture);
-    upright(0.49, 2, 0, kPicture);
-    upright(0.51, 2, 0, kPicture);
-    for (int dash = 0; dash < kPicture; dash += 128)
+    upright(0.035, 3, 0, kGroundPicture);
+    upright(0.965, 3, 0, kGroundPicture);
+    upright(0.49, 2, 0, kGroundPicture);
+    upright(0.51, 2, 0, kGroundPicture);
+    for (int dash = 0; dash < kGroundPicture; dash += 128)
     {
         upright(0.265, 3, dash, dash + 52);
         upright(0.735, 3, dash, dash + 52);
@@ -59,20 +59,20 @@ Canvas PaintRoad(Random& random)
 
 Canvas PaintZebra()
 {
-    Canvas canvas(kPicture, kPicture, Colour(0.92f, 0.92f, 0.93f));
+    Canvas canvas(kGroundPicture, kGroundPicture, Colour(0.92f, 0.92f, 0.93f));
     constexpr int kStripes = 12;
     for (int i = 0; i < kStripes; ++i)
-        canvas.Rectangle(kPicture * i / kStripes, 0, kPicture * i / kStripes + kPicture / (2 * kStripes), kPicture,
-                         Colour(1.5f, 1.5f, 1.45f));
+        canvas.Rectangle(kGroundPicture * i / kStripes, 0, kGroundPicture * i / kStripes + kGroundPicture / (2 * kStripes),
+                         kGroundPicture, Colour(1.5f, 1.5f, 1.45f));
     return canvas;
 }
 
 Canvas PaintTiles(Random& random)
 {
-    Canvas canvas(kPicture, kPicture, kNeutral);
+    Canvas canvas(kGroundPicture, kGroundPicture, kNeutral);
     constexpr int kRow = 16;
-    for (int y = 0; y < kPicture; ++y)
-        for (int x = 0; x < kPicture; ++x)
+    for (int y = 0; y < kGroundPicture; ++y)
+        for (int x = 0; x < kGroundPicture; ++x)
         {
             const float ridge = 0.82f + 0.18f * static_cast<float>(std::fabs(std::sin(3.14159 * x / kRow)));
             canvas.At(x, y) *= ridge * (y % kRow < 2 ? 0.80f : 1.0f);
@@ -83,14 +83,14 @@ Canvas PaintTiles(Random& random)
 
 Canvas PaintWater(Random& random)
 {
-    Canvas canvas(kPicture, kPicture, kNeutral);
+    Canvas canvas(kGroundPicture, kGroundPicture, kNeutral);
     const Lattice broad(random, 8);
     const Lattice fine(random, 32);
-    for (int y = 0; y < kPicture; ++y)
-        for (int x = 0; x < kPicture; ++x)
+    for (int y = 0; y < kGroundPicture; ++y)
+        for (int x = 0; x < kGroundPicture; ++x)
         {
-            const double u = static_cast<double>(x) / kPicture;
-            const double v = static_cast<double>(y) / kPicture;
+            const double u = static_cast<double>(x) / kGroundPicture;
+            const double v = static_cast<double>(y) / kGroundPicture;
             const double ripple = broad.At(u * 8, v * 8) * 0.6 + fine.At(u * 32, v * 32) * 0.4;
             canvas.At(x, y) *= 0.95f + 0.07f * static_cast<float>(ripple);
         }

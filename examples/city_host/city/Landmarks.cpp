@@ -5,6 +5,8 @@
 #include "Register.h"
 #include "Shapes.h"
 
+#include <osg/Math>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,12 +15,10 @@ namespace city
 namespace
 {
 
-constexpr double kPi = 3.14159265358979;
-
 const Colour kStone(.80f, .77f, .72f);
 const Colour kSteel(.90f, .91f, .92f);
 const Colour kSeats[] = {{.72f, .80f, .86f}, {.84f, .88f, .90f}};
-const Colour kPitch(.50f, .66f, .38f);
+const Colour kStadiumField(.50f, .66f, .38f);
 const Colour kOldTiles(.45f, .44f, .45f);
 const Colour kTimber(.68f, .42f, .34f);
 
@@ -29,7 +29,7 @@ Polygon RoundedSquare(const osg::Vec2d& centre, double half, double turn)
     constexpr int kCorners = 16;
     for (int i = 0; i < kCorners; ++i)
     {
-        const double a = 2.0 * kPi * (i + 0.5) / kCorners;
+        const double a = 2.0 * osg::PI * (i + 0.5) / kCorners;
         const double c = std::cos(a), s = std::sin(a);
         const double power = 3.4;
         const double r = half / std::pow(std::pow(std::fabs(c), power) + std::pow(std::fabs(s), power), 1.0 / power);
@@ -74,8 +74,8 @@ void BuildLandmark(Site& site, const Polygon& ground)
     const auto ring = [&](int stage)
     {
         const double t = static_cast<double>(stage) / kStages;
-        const double half = 24.5 * (1.0 + 0.10 * std::sin(kPi * std::min(1.0, t * 1.8))) * (1.0 - 0.48 * t * t);
-        return RoundedSquare(centre, half, t * kPi / 5.0);
+        const double half = 24.5 * (1.0 + 0.10 * std::sin(osg::PI * std::min(1.0, t * 1.8))) * (1.0 - 0.48 * t * t);
+        return RoundedSquare(centre, half, t * osg::PI / 5.0);
     };
     const auto level = [](int stage) { return 12.5 + (kHeight - 12.5) * stage / kStages; };
     for (int stage = 0; stage < kStages; ++stage)
@@ -116,7 +116,7 @@ void BuildStadium(Site& site, const Polygon& ground)
     {
         const double x = centre.x() - 40.0 + stripe * 10.0;
         AddFlat(site, Rectangle(x, centre.y() - 25.0, x + 10.0, centre.y() + 25.0), kLotHeight + 0.4, Surface::Inlay,
-                kPitch * (stripe % 2 ? 1.0f : 1.12f));
+                kStadiumField * (stripe % 2 ? 1.0f : 1.12f));
     }
     // The bowl is open: its ring throws the shadow in pieces.
     const Polygon outer = oval(98.0, 84.0), inner = oval(66.0, 52.0);
@@ -180,7 +180,7 @@ void BuildHall(Site& site, const Polygon& ground)
             for (int j = 0; j <= kAcross; ++j)
             {
                 const double u = -1.0 + 2.0 * i / kAlong;
-                const double a = kPi * j / kAcross;
+                const double a = osg::PI * j / kAcross;
                 const double fall = std::sqrt(std::max(0.02, 1.0 - u * u));
                 const osg::Vec3d p(middle.x() + u * length, middle.y() - std::cos(a) * width * fall,
                                    2.0 + std::sin(a) * height * fall);

@@ -21,7 +21,7 @@ const Colour kPath(.88f, .83f, .74f);
 const Colour kPond(.62f, .72f, .74f);
 const Colour kLawn(.66f, .71f, .52f);
 const Colour kTrack(.78f, .52f, .42f);
-const Colour kPitch(.52f, .64f, .40f);
+const Colour kPlayingField(.52f, .64f, .40f);
 const Colour kLine(.95f, .95f, .92f);
 const Colour kFoliage[] = {{.50f, .60f, .36f}, {.56f, .63f, .38f}, {.46f, .56f, .37f}, {.62f, .65f, .40f}, {.70f, .64f, .40f}};
 
@@ -171,7 +171,7 @@ void BuildSportsField(Site& site, const Polygon& ground)
     if (halfX < 20.0 || high.y() - low.y() < 90.0)
         return;
     AddFlat(site, Ellipse(centre, halfX, 24.0, 32), kLotHeight + 0.1, Surface::Inlay, kTrack);
-    AddFlat(site, Ellipse(centre, halfX - 7.0, 17.0, 32), kLotHeight + 0.2, Surface::Inlay, kPitch);
+    AddFlat(site, Ellipse(centre, halfX - 7.0, 17.0, 32), kLotHeight + 0.2, Surface::Inlay, kPlayingField);
     AddFlat(site, Rectangle(centre, {0.8, 33.0}, 0.0), kLotHeight + 0.3, Surface::Inlay, kLine);
 }
 

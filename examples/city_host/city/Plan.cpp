@@ -9,7 +9,7 @@ namespace city
 namespace
 {
 
-constexpr double kPitch = 2.0 * kCityHalf / (kStreets - 1);
+constexpr double kStreetPitch = 2.0 * kCityHalf / (kStreets - 1);
 constexpr double kMainWidth = 26.0;
 constexpr double kSideWidth = 15.0;
 constexpr double kZebra = 4.0;
@@ -49,7 +49,7 @@ std::vector<Street> MakeStreets(Random& random)
     {
         const bool main = i % 3 == 0;
         const double jitter = i > 0 && i < kStreets - 1 ? random.Range(-14.0, 14.0) : 0.0;
-        streets.push_back({-kCityHalf + kPitch * i + jitter, main ? kMainWidth : kSideWidth, main && i % 18 != 0});
+        streets.push_back({-kCityHalf + kStreetPitch * i + jitter, main ? kMainWidth : kSideWidth, main && i % 18 != 0});
     }
     return streets;
 }

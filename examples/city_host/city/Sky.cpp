@@ -5,6 +5,7 @@
 
 #include <osg/Depth>
 #include <osg/Geode>
+#include <osg/Math>
 #include <osgUtil/CullVisitor>
 #include <algorithm>
 #include <cfloat>
@@ -18,10 +19,9 @@ namespace
 constexpr int kAround = 40;
 constexpr int kRings = 18;
 constexpr double kRadius = 100.0;
-constexpr double kNear = 1.0;
-constexpr double kFar = 1000.0;
+constexpr double kNearPlane = 1.0;
+constexpr double kFarPlane = 1000.0;
 constexpr double kLowest = -0.5; ///< radians; below it the ground covers everything
-constexpr double kPi = 3.14159265358979;
 constexpr int kBin = -10;
 constexpr int kStars = 420;
 
@@ -31,7 +31,7 @@ double RingElevation(int ring)
     if (ring == 0)
         return kLowest;
     const double t = static_cast<double>(ring - 1) / (kRings - 1);
-    return t * t * kPi / 2.0;
+    return t * t * osg::PI / 2.0;
 }
 
 osg::Vec3d Direction(double azimuth, double elevation)
@@ -63,7 +63,7 @@ osg::ref_ptr<osg::Geometry> MakeDome()
     osg::ref_ptr<osg::DrawElementsUShort> triangles = new osg::DrawElementsUShort(GL_TRIANGLES);
     for (int ring = 0; ring <= kRings; ++ring)
         for (int i = 0; i <= kAround; ++i)
-            points->push_back(Direction(2.0 * kPi * i / kAround, RingElevation(ring)) * kRadius);
+            points->push_back(Direction(2.0 * osg::PI * i / kAround, RingElevation(ring)) * kRadius);
     for (int ring = 0; ring < kRings; ++ring)
         for (int i = 0; i < kAround; ++i)
         {
@@ -86,7 +86,7 @@ osg::ref_ptr<osg::Geometry> MakeStars()
     osg::ref_ptr<osg::Vec4Array> colours = new osg::Vec4Array;
     for (int i = 0; i < kStars; ++i)
     {
-        const double azimuth = random.Range(0.0, 2.0 * kPi);
+        const double azimuth = random.Range(0.0, 2.0 * osg::PI);
         points->push_back(Direction(azimuth, random.Range(0.10, 1.4)) * (kRadius * 0.98));
         const float bright = static_cast<float>(random.Range(0.25, 0.8));
         colours->push_back({bright, bright, bright * 1.05f, 1.0f});
@@ -152,8 +152,8 @@ void Sky::traverse(osg::NodeVisitor& visitor)
     osg::ref_ptr<osg::RefMatrix> projection = new osg::RefMatrix(*cull->getProjectionMatrix());
     if (projection->getFrustum(left, right, bottom, top, zNear, zFar) && zNear > 0.0)
     {
-        const double scale = kNear / zNear;
-        projection->makeFrustum(left * scale, right * scale, bottom * scale, top * scale, kNear, kFar);
+        const double scale = kNearPlane / zNear;
+        projection->makeFrustum(left * scale, right * scale, bottom * scale, top * scale, kNearPlane, kFarPlane);
     }
     osg::ref_ptr<osg::RefMatrix> view = new osg::RefMatrix(*cull->getModelViewMatrix());
     view->setTrans(0.0, 0.0, 0.0);

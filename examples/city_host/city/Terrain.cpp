@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr double kEdge = kCityHalf + 14.0;
-constexpr double kFar = 7000.0;
+constexpr double kHorizon = 7000.0;
 constexpr double kWallTop = 0.3;
 constexpr double kParapet = 1.2;
 
@@ -43,8 +43,8 @@ void AddColumn(Site& site, double x0, double x1, bool city)
     const Colour& colour = city ? kAsphalt : kFields;
     AddFlat(site, north, 0.0, surface, colour);
     AddFlat(site, south, 0.0, surface, colour);
-    AddFlat(site, Rectangle(x0, kEdge, x1, kFar), 0.0, Surface::Land, kFields);
-    AddFlat(site, Rectangle(x0, -kFar, x1, -kEdge), 0.0, Surface::Land, kFields);
+    AddFlat(site, Rectangle(x0, kEdge, x1, kHorizon), 0.0, Surface::Land, kFields);
+    AddFlat(site, Rectangle(x0, -kHorizon, x1, -kEdge), 0.0, Surface::Land, kFields);
     AddFlat(site, Between(plan, x0, x1, -kRiverHalf, kRiverHalf), kWaterLevel, Surface::Water, kWater);
 }
 
@@ -110,7 +110,7 @@ void AddHills(Site& site)
 void BuildTerrain(Site& site)
 {
     const std::vector<Street>& streets = site.plan.northSouth;
-    const double out[] = {-kFar, -4000.0, -2400.0, -kEdge};
+    const double out[] = {-kHorizon, -4000.0, -2400.0, -kEdge};
     for (int i = 0; i < 3; ++i)
     {
         AddColumn(site, out[i], out[i + 1], false);

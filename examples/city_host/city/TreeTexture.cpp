@@ -4,6 +4,8 @@
 #include "Canvas.h"
 #include "Random.h"
 
+#include <osg/Math>
+
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +16,6 @@ namespace
 
 constexpr int kHalf = 128; ///< pixels of one half, across and up
 constexpr int kLeaves = 260;
-constexpr double kPi = 3.14159265358979;
 const Colour kTrunk(.48f, .42f, .36f);
 
 struct Picture
@@ -40,7 +41,7 @@ void AddCrown(Picture& picture, Random& random, double cx, double cy, double rx,
 {
     for (int i = 0; i < kLeaves; ++i)
     {
-        const double angle = random.Range(0.0, 2.0 * kPi);
+        const double angle = random.Range(0.0, 2.0 * osg::PI);
         const double out = std::sqrt(random.Unit()) * (1.0 - 0.35 * i / kLeaves);
         const double x = cx + std::cos(angle) * rx * out;
         const double y = cy + std::sin(angle) * ry * out + (fromSide ? 4.0 * i / kLeaves : 0.0);

@@ -4,6 +4,7 @@
 #include "../city/Viewpoints.h"
 #include "../views/ViewPictures.h"
 #include "CommandTable.h"
+#include "Frame.h"
 #include "Language.h"
 #include "ViewerSetup.h"
 
@@ -23,11 +24,6 @@ constexpr DWORD IdleMilliseconds = 100;
 /// No step of time is taken longer than that, so that what moves does not jump after a pause.
 constexpr double LongestStep = 0.25;
 constexpr double HomeFlightSeconds = 1.0;
-
-CeGuiMainFrame& Frame()
-{
-    return *CeGuiMainFrame::GetInstance();
-}
 
 } // namespace
 

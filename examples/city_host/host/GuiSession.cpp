@@ -4,6 +4,7 @@
 #include "../toast/Text.h"
 #include "../views/ViewList.h"
 #include "../views/ViewPictures.h"
+#include "Frame.h"
 #include "Language.h"
 
 #include <exception>
@@ -13,11 +14,6 @@ namespace host
 {
 namespace
 {
-
-CeGuiMainFrame& Frame()
-{
-    return *CeGuiMainFrame::GetInstance();
-}
 
 // The interface's title bar, in view pixels.
 constexpr LONG TitleBarHeight = 50;

@@ -2,22 +2,13 @@
 // What the interface looks like, changed while it runs: its language, its skin, and the skin's files.
 #include "CityHost.h"
 
+#include "Frame.h"
 #include "Language.h"
 
 #include <exception>
 
 namespace host
 {
-namespace
-{
-
-CeGuiMainFrame& Frame()
-{
-    return *CeGuiMainFrame::GetInstance();
-}
-
-} // namespace
-
 void CityHost::ScaleFor(UINT density)
 {
     // Whole steps only: a pixel of the interface is a square of the view's, and nothing blurs.

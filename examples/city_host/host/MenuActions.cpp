@@ -6,6 +6,7 @@
 
 #include "../views/ViewPictures.h"
 #include "CityHost.h"
+#include "Frame.h"
 
 #include <algorithm>
 #include <iterator>
@@ -35,11 +36,6 @@ const MenuCommand menuCommands[] = {
     {SceneFullScene, {L"全场景", L"Full scene"}, &MenuActions::ToggleFullScene},
     {SceneEditTitle, {L"编辑标题", L"Edit the title"}, &MenuActions::EditTitle},
 };
-
-CeGuiMainFrame& Frame()
-{
-    return *CeGuiMainFrame::GetInstance();
-}
 
 const wchar_t* NotAllowed()
 {

@@ -3,6 +3,7 @@
 
 #include "Publication.h"
 
+#include "../host/Frame.h"
 #include "../host/Language.h"
 
 #include <KernelCommonUse/FileOp.h>
@@ -24,11 +25,6 @@ const wchar_t* const SettingsFile = L"publication.ini";
 const wchar_t* const StartFile = L"start.cmd";
 const wchar_t* const Section = L"Publication";
 const char* const Utf8Mark = "\xEF\xBB\xBF";
-
-CeGuiMainFrame& Frame()
-{
-    return *CeGuiMainFrame::GetInstance();
-}
 
 bool WriteFileBytes(const CString& path, const std::string& bytes)
 {

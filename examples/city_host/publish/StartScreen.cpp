@@ -13,7 +13,7 @@ namespace host
 namespace
 {
 
-constexpr double StaySeconds = 4.0;
+constexpr double PageSeconds = 4.0;
 constexpr int OverNotes = 2; ///< in the order of what is drawn over the scene
 constexpr int HintPixels = 14;
 constexpr int HintBelow = 28; ///< pixels between page and hint
@@ -104,7 +104,7 @@ StartScreen::~StartScreen()
 bool StartScreen::Advance(double seconds, CSize view)
 {
     age_ += seconds;
-    over_ = over_ || age_ >= StaySeconds;
+    over_ = over_ || age_ >= PageSeconds;
     const bool changed = view != view_;
     if (changed)
     {

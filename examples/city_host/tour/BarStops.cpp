@@ -14,7 +14,6 @@ namespace
 
 /// Milliseconds, of the ten ticks of 30 that a bar takes; drawing the frame of the picture takes its share.
 constexpr DWORD PartOfASlide = 60;
-constexpr DWORD Flight = 1200;
 
 void MoveAway(User& user)
 {

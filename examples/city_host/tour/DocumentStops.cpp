@@ -16,7 +16,6 @@ namespace
 constexpr int PublishTool = 6;
 // View pixels.
 constexpr POINT TitleText = {90, 25};
-constexpr int WindowButtonY = 25;
 constexpr int MinimiseFromRight = 72;
 const wchar_t* const FormerTitle = L"滨江新城总体规划";
 const wchar_t* const NewTitle = L"滨江新城 · Riverside 2035";

@@ -14,15 +14,13 @@ namespace
 
 constexpr int EnvironmentTool = 3;
 constexpr int PropertyTool = 4;
-// Of the title bar, in view pixels.
-constexpr int WindowButtonY = 25;
+// Of the window buttons, in view pixels.
 constexpr int CloseFromRight = 28;
 constexpr int FullSceneFromRight = 116;
 constexpr POINT Building = {640, 330}; ///< in the home view
 constexpr POINT BareGround = {980, 620};
 constexpr UINT DenseDensity = 192; ///< dots per inch
 constexpr int DenseScale = 2;
-constexpr DWORD Flight = 1200;    ///< milliseconds
 constexpr DWORD FollowTime = 900; ///< in which a saved file shows
 
 std::unique_ptr<SkinMaker> skinMaker;

@@ -17,7 +17,6 @@ constexpr POINT BareGround = {980, 620};
 // In the view of the list's second entry.
 constexpr POINT NearBuilding = {530, 620};
 constexpr POINT SkyInNearView = {900, 90};
-constexpr DWORD Flight = 1200; ///< milliseconds
 // Of the property panel.
 constexpr int PanelX = 1070;
 constexpr int FirstRowY = 96;

@@ -22,6 +22,10 @@ inline CPoint Tool(const User& user, int number)
 }
 
 constexpr int ListX = 74;
+/// The window buttons' middle.
+constexpr int WindowButtonY = 25;
+/// Milliseconds in which the camera flies to a view and comes to rest.
+constexpr DWORD Flight = 1200;
 
 /// @param number from 1, of the entries in sight while the list is not scrolled
 inline CPoint Entry(int number)

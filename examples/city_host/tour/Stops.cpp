@@ -16,7 +16,6 @@ namespace
 {
 
 // Of the interface's title bar, in view pixels.
-constexpr int WindowButtonY = 25;
 constexpr int CloseFromRight = 28;
 constexpr int MinimiseFromRight = 72;
 constexpr int FullSceneFromRight = 116;
