@@ -11,6 +11,7 @@
 namespace
 {
 const wchar_t Blanks[] = L" \t";
+const int MaxLinesReported = 100;
 
 void Report(const CString& path, const char* fault)
 {
@@ -37,13 +38,18 @@ IniReader::Result IniReader::Read(const CString& path, Encoding encoding)
     }
     CString section;
     int number = 0;
+    int malformed = 0;
     for (const TextLine& line : SplitLines(bytes, encoding == Encoding::Utf8))
     {
         ++number;
-        if (const char* fault = line.fault ? line.fault : TakeLine(line.text, section))
+        if (const char* fault = line.fault ? line.fault : TakeLine(line.text, section); fault && ++malformed <= MaxLinesReported)
         {
             ServiceLog(CString2string(path) + ", line " + std::to_string(number) + ": " + fault + "; the line is skipped.");
         }
+    }
+    if (malformed > MaxLinesReported)
+    {
+        Report(path, ("has " + std::to_string(malformed - MaxLinesReported) + " more lines that are skipped").c_str());
     }
     return Result::Read;
 }

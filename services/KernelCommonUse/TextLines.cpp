@@ -2,6 +2,7 @@
 #include "TextLines.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace
 {
@@ -52,7 +53,7 @@ std::vector<TextLine> SplitBytes(const std::string& bytes, std::size_t start, UI
                 [&](std::size_t first, std::size_t end)
                 {
                     TextLine line;
-                    if (bytes.find('\0', first) < end)
+                    if (std::memchr(bytes.data() + first, 0, end - first))
                     {
                         line.fault = NullFault;
                     }

@@ -17,6 +17,8 @@ namespace
 {
 const unsigned int MaxCommand = 0xEFFF;
 const int MaxDepth = 16;
+// Each element takes the system the longer the more there are: a file of hundreds of thousands would stop the interface.
+const int MaxElements = 5000;
 
 // What is wrong with a file.
 struct Fault : std::runtime_error
@@ -65,6 +67,10 @@ public:
             {
                 continue;
             }
+            if (++elements_ > MaxElements)
+            {
+                throw Fault("more than 5000 elements");
+            }
             if (name == "menu")
             {
                 const CString text = TextOf(node);
@@ -107,6 +113,7 @@ private:
     }
 
     std::set<UINT> commands_;
+    int elements_ = 0;
 };
 
 void Parse(const CString& path, pugi::xml_document& document)

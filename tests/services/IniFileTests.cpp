@@ -152,6 +152,35 @@ TEST(IniFile, ReportsMalformedLinesAndKeepsTheRest)
     }
 }
 
+TEST(IniFile, ReportsNoMoreThanAHundredMalformedLines)
+{
+    std::string bytes = "[s]\n";
+    for (int line = 0; line < 3000; ++line)
+    {
+        bytes += "nonsense\n";
+    }
+    TestFolder folder;
+    const CString path = folder.Write(L"nonsense.ini", bytes + "k=1");
+    CIniFile file;
+    file.SetPath(path);
+    EXPECT_EQ(Utf8(file.GetKeyValue(L"s", L"k")), "1");
+    const std::vector<std::string> log = folder.TakeLog();
+    ASSERT_EQ(log.size(), 101u);
+    EXPECT_EQ(log[99], Utf8(path) + ", line 101: no '=' in it; the line is skipped.");
+    EXPECT_EQ(log[100], "The file " + Utf8(path) + " has 2900 more lines that are skipped.");
+}
+
+TEST(IniFile, ManyLinesTakeNoLongerEachThanFew)
+{
+    TestFolder folder;
+    CIniFile file;
+    file.SetPath(folder.Write(L"lines.ini", std::string(2 * 1024 * 1024, '\n') + "[s]\nk=1"));
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_EQ(Utf8(file.GetKeyValue(L"s", L"k")), "1");
+    // To look through the rest of the file for each line took minutes.
+    EXPECT_LT(GetTickCount64() - start, 20000u);
+}
+
 TEST(IniFile, RefusesFilesOverFourMegabytes)
 {
     const std::string head = "[s]\nk=1\n;";

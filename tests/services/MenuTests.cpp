@@ -277,6 +277,23 @@ TEST_F(MenuTest, nested_too_deep)
     ExpectRefused(nested(5000), "menus nested more than 16 deep");
 }
 
+TEST_F(MenuTest, elements_by_the_thousand)
+{
+    const auto separators = [](int count)
+    {
+        std::string xml = "<menus><menu text=\"a\">";
+        for (int i = 1; i < count; ++i)
+        {
+            xml += "<separator/>";
+        }
+        return xml + "</menu></menus>";
+    };
+    EXPECT_TRUE(Load(separators(5000)));
+    EXPECT_EQ(GetMenuItemCount(Submenu()), 4999);
+    ExpectRefused(separators(5001), "more than 5000 elements");
+    ExpectRefused(separators(300000), "more than 5000 elements");
+}
+
 TEST_F(MenuTest, ten_megabytes)
 {
     std::string xml = "<menus><menu text=\"a\"/><!--";
