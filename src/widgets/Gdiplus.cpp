@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Gdiplus.h"
 
+#include "PictureClaim.h"
+
 #include <atlimage.h>
 
 #include <cstring>
@@ -105,7 +107,7 @@ void FillExactly(GpBitmap* bitmap, ARGB color)
 Bitmap BitmapOf(const void* bytes, std::size_t size)
 {
     RequireGdiplus();
-    const auto stream = size ? StreamOf(bytes, size) : nullptr;
+    const auto stream = ClaimsWhatItCanHold(bytes, size) ? StreamOf(bytes, size) : nullptr;
     return stream ? Make<Bitmap>([&](GpBitmap** bitmap) { return GdipCreateBitmapFromStream(stream.get(), bitmap); }) : nullptr;
 }
 

@@ -66,7 +66,7 @@ Bitmap NewBitmap(int width, int height);
 /// Gives every pixel exactly this colour. Neither filling nor clearing is sure to keep the colour of what is fully
 /// transparent.
 void FillExactly(GpBitmap* bitmap, ARGB color);
-/// The picture in a file's bytes; null when no decoder reads them.
+/// The picture in a file's bytes; null when no decoder reads them, and when the file claims more than it can hold.
 Bitmap BitmapOf(const void* bytes, std::size_t size);
 /// A picture file; null when it is missing or no picture. It is read as a whole first: decoders read in small steps, and on
 /// files each of these may cost as much as the whole.

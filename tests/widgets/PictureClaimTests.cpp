@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+// Picture files that say that they are larger than they can be, and the memory that they get.
+#include "Pictures.h"
+
+#include "support/GTest.h"
+#include "support/Gui.h"
+
+#include <widgets/GuiImageCodec.h>
+#include <widgets/PictureClaim.h>
+
+#include <KernelCommonUse/StringConvert.h>
+
+#include <fstream>
+
+namespace
+{
+std::vector<std::uint8_t> CorpusPicture(const std::string& file)
+{
+    const std::vector<std::uint8_t> bytes = ReadBytes(Utf8ToCString(NX_PICTURE_CORPUS + ("/" + file)));
+    EXPECT_FALSE(bytes.empty()) << file;
+    return bytes;
+}
+
+bool Decoded(const std::vector<std::uint8_t>& bytes)
+{
+    RgbaPicture picture;
+    return DecodePicture(bytes.data(), bytes.size(), picture);
+}
+
+/// A row of the system's report on this process, in MB.
+long Reported(const std::string& row)
+{
+    std::ifstream report("/proc/self/status");
+    for (std::string word; report >> word;)
+    {
+        long kilobytes = 0;
+        if (word == row && report >> kilobytes)
+        {
+            return kilobytes / 1024;
+        }
+    }
+    ADD_FAILURE() << row;
+    return 0;
+}
+
+/// How much memory was in use at most since this was made, in MB more than at the beginning.
+class MemoryPeak
+{
+public:
+    MemoryPeak() : inUse_(0)
+    {
+        // Begins the count of the peak anew.
+        std::ofstream("/proc/self/clear_refs") << 5;
+        inUse_ = Reported("VmRSS:");
+    }
+    long Growth() const { return Reported("VmHWM:") - inUse_; }
+
+private:
+    long inUse_;
+};
+
+constexpr long MostMemory = 64;
+} // namespace
+
+TEST(PictureClaim, small_file_that_claims_60000_by_60000_pixels_does_not_get_the_memory)
+{
+    // What a decoder needs for any picture is had by now.
+    ASSERT_TRUE(Decoded(CorpusPicture("rgb.png")));
+    for (const char* file :
+         {"claims_60000.bmp", "claims_60000_32_bits.bmp", "claims_60000_core.bmp", "claims_60000_rle.bmp", "claims_60000.gif",
+          "frame_claims_60000.gif", "claims_60000.jpg", "claims_60000_progressive.jpg", "claims_60000.png",
+          "claims_60000_one_bit.png", "claims_60000.tiff", "tile_claims_60000.tiff", "windows.ico"})
+    {
+        const std::vector<std::uint8_t> bytes = CorpusPicture(file);
+        EXPECT_LT(bytes.size(), 2048u) << file;
+        const long addressSpace = Reported("VmPeak:");
+        const MemoryPeak memory;
+        EXPECT_FALSE(Decoded(bytes)) << file;
+        EXPECT_LT(memory.Growth(), MostMemory) << file;
+        EXPECT_LT(Reported("VmPeak:") - addressSpace, MostMemory) << file;
+        EXPECT_FALSE(ClaimsWhatItCanHold(bytes.data(), bytes.size())) << file;
+    }
+}
+
+TEST(PictureClaim, memory_of_a_large_picture_is_seen)
+{
+    const MemoryPeak memory;
+    ASSERT_TRUE(Decoded(Bmp32(Solid(4096, 4096, 0xFF102030))));
+    EXPECT_GE(memory.Growth(), MostMemory);
+}
+
+TEST(PictureClaim, rows_of_a_strip_that_the_picture_has_not_take_no_memory)
+{
+    const std::vector<std::uint8_t> bytes = CorpusPicture("rows_claim_60000.tiff");
+    const MemoryPeak memory;
+    Decoded(bytes);
+    EXPECT_LT(memory.Growth(), MostMemory);
+}
+
+TEST(PictureClaim, picture_files_in_a_ring_end)
+{
+    const std::vector<std::uint8_t> bytes = CorpusPicture("directories_in_a_ring.tiff");
+    EXPECT_FALSE(ClaimsWhatItCanHold(bytes.data(), bytes.size()));
+}
+
+TEST(PictureClaim, frames_of_one_file_count_together)
+{
+    // Each frame alone would do.
+    std::vector<std::uint8_t> bytes = CorpusPicture("still.gif");
+    ASSERT_TRUE(ClaimsWhatItCanHold(bytes.data(), bytes.size()));
+    bytes.pop_back();
+    const std::uint8_t frame[] = {',', 0, 0, 0, 0, 0, 1, 0, 1, 0, 2, 0};
+    for (int count = 0; count < 1000; ++count)
+    {
+        bytes.insert(bytes.end(), std::begin(frame), std::end(frame));
+        if (!ClaimsWhatItCanHold(bytes.data(), bytes.size()))
+        {
+            EXPECT_GT(count, 1);
+            EXPECT_LT(count, 100);
+            return;
+        }
+    }
+    ADD_FAILURE() << "a thousand frames of 256 x 256 pixels in 12 bytes each";
+}
+
+TEST(PictureClaim, well_packed_pictures_are_read)
+{
+    const Argb picture = Solid(1200, 800, 0xFF204060);
+    for (const wchar_t* type : {L"image/png", L"image/jpeg", L"image/gif", L"image/tiff"})
+    {
+        const CString path = SkinDir() + L"packed.tmp";
+        WriteWithEncoder(picture, type, path);
+        EXPECT_TRUE(Decoded(ReadBytes(path))) << CString2string(type);
+    }
+    for (const char* file :
+         {"rgb.png",  "rgba.png",    "palette.png",    "interlaced.png", "one_bit.png", "baseline.jpg",    "progressive.jpg",
+          "gray.jpg", "still.gif",   "two_frames.gif", "interlaced.gif", "plain.tiff",  "lzw.tiff",        "big_endian_zip.tiff",
+          "fax.tiff", "24_bits.bmp", "32_bits.bmp",    "top_down.bmp",   "rle.bmp",     "core_header.bmp", "v4_header.bmp"})
+    {
+        EXPECT_TRUE(Decoded(CorpusPicture(file))) << file;
+    }
+}
+
+TEST(PictureClaim, sides_have_a_limit)
+{
+    const auto png = [](std::uint32_t width, std::uint32_t height)
+    {
+        std::vector<std::uint8_t> bytes = CorpusPicture("one_bit.png");
+        bytes.resize(20000);
+        for (std::size_t i = 0; i < 4; ++i)
+        {
+            bytes[16 + i] = static_cast<std::uint8_t>(width >> (24 - 8 * i));
+            bytes[20 + i] = static_cast<std::uint8_t>(height >> (24 - 8 * i));
+        }
+        return ClaimsWhatItCanHold(bytes.data(), bytes.size());
+    };
+    EXPECT_TRUE(png(32768, 2048)) << "64 M pixels";
+    EXPECT_TRUE(png(8192, 8192));
+    EXPECT_FALSE(png(32768, 2049));
+    EXPECT_FALSE(png(32769, 1));
+    EXPECT_FALSE(png(1, 32769));
+    EXPECT_FALSE(png(0xFFFFFFFF, 0xFFFFFFFF));
+    EXPECT_FALSE(png(0, 5));
+    EXPECT_FALSE(png(5, 0));
+}
