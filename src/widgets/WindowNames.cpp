@@ -9,7 +9,7 @@ namespace
 {
 const char* const GivenName = "GivenName";
 
-/// A name that no record can have made, since it is counted up over the life of the process.
+/// A name that is no other window's, unless a record has just this one.
 CEGUI::String FreeName()
 {
     static unsigned int count = 0;
@@ -41,7 +41,7 @@ CEGUI::Window* Create(const char* type, const CEGUI::String& name)
 
 void AddChild(CEGUI::Window& parent, CEGUI::Window& child)
 {
-    if (parent.isChild(child.getName()))
+    while (parent.isChild(child.getName()))
     {
         Rename(child);
     }

@@ -62,6 +62,27 @@ TEST_F(WindowNamesTest, siblings_may_share_a_name)
     EXPECT_EQ(WindowNames::Find("twin"), nullptr);
 }
 
+TEST_F(WindowNamesTest, record_may_have_the_name_that_a_window_would_be_given_next)
+{
+    CeGuiToolBar& bar = NewBar({0, 0, 100, 100}, BAR_LIST);
+    bar.AddImageButton(L"/", L"", L"", L"", L"");
+    const CString given = TextOfName(bar.items[0].window->getName());
+    const int number = std::stoi(Utf8(given.Mid(given.ReverseFind(L' ') + 1)));
+    ASSERT_GT(number, 0) << Utf8(given);
+    for (int next = 1; next <= 4; ++next)
+    {
+        CString name;
+        name.Format(L"renamed window %d", number + next);
+        bar.AddImageButton(name, L"", L"", L"", L"");
+        EXPECT_EQ(WindowNames::Find(GuiName(name)), bar.items.back().window);
+    }
+    for (const wchar_t* name : {L"/", L"renamed window 1", L"/", L""})
+    {
+        bar.AddImageButton(name, L"", L"", L"", L"");
+    }
+    EXPECT_EQ(bar.window->getChildCount(), 9u);
+}
+
 TEST_F(WindowNamesTest, items_may_be_named_like_their_bar_and_its_thumb)
 {
     CeGuiToolBar& bar = NewBar({0, 0, 100, 100}, BAR_LIST);
