@@ -8,7 +8,9 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <set>
 #include <sstream>
+#include <utility>
 
 namespace
 {
@@ -41,6 +43,27 @@ bool LooksLikeXml(std::string_view bytes)
     return first != std::string::npos && bytes[first] == '<';
 }
 
+/// Deeper than any look goes: a file that is deeper is no skin, and its elements are gone through by recursion.
+constexpr int DeepestElement = 100;
+/// Beyond these a list of what was left out is of no use to anybody.
+constexpr std::size_t MaxLeftOut = 1000;
+constexpr std::size_t MaxTitle = 200;
+
+std::string Shortened(const std::string& text)
+{
+    std::size_t length = MaxTitle;
+    if (text.size() <= length)
+    {
+        return text;
+    }
+    // Not within a letter of UTF-8.
+    while (length > 0 && (text[length] & 0xC0) == 0x80)
+    {
+        --length;
+    }
+    return text.substr(0, length) + "...";
+}
+
 /// How an element is called where it is left out: with what tells it from its like.
 std::string Titled(pugi::xml_node element)
 {
@@ -49,10 +72,10 @@ std::string Titled(pugi::xml_node element)
     {
         if (const pugi::xml_attribute attribute = element.attribute(title))
         {
-            return std::string(element.name()) + " \"" + attribute.value() + "\"";
+            return Shortened(element.name()) + " \"" + Shortened(attribute.value()) + "\"";
         }
     }
-    return element.name();
+    return Shortened(element.name());
 }
 
 /// One file on its way into 0.8's format.
@@ -60,8 +83,12 @@ class Translation
 {
 public:
     Translation(const OldSkinFormat& format, const std::string& text, OldSkinNames& names, std::vector<OldSkin::LeftOut>& leftOut)
-        : format_(format), text_(text), names_(names), leftOut_(leftOut)
+        : format_(format), names_(names), leftOut_(leftOut), most_(leftOut.size() + MaxLeftOut)
     {
+        for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', end + 1))
+        {
+            lineEnds_.push_back(static_cast<std::ptrdiff_t>(end));
+        }
     }
 
     void Root(pugi::xml_node from, pugi::xml_document& to)
@@ -74,10 +101,26 @@ public:
     bool NamesPictures() const { return namesPictures_; }
 
 private:
+    class Deeper
+    {
+    public:
+        explicit Deeper(int& depth) : depth_(depth) { ++depth_; }
+        ~Deeper() { --depth_; }
+        Deeper(const Deeper&) = delete;
+        Deeper& operator=(const Deeper&) = delete;
+
+    private:
+        int& depth_;
+    };
+
     void LeaveOut(pugi::xml_node element, const std::string& what)
     {
-        const auto end = text_.begin() + std::min<std::ptrdiff_t>(element.offset_debug(), text_.size());
-        leftOut_.push_back({what, 1 + static_cast<int>(std::count(text_.begin(), end, '\n'))});
+        if (leftOut_.size() > most_)
+        {
+            return;
+        }
+        const auto before = std::lower_bound(lineEnds_.begin(), lineEnds_.end(), element.offset_debug());
+        leftOut_.push_back({leftOut_.size() < most_ ? what : "and more", 1 + static_cast<int>(before - lineEnds_.begin())});
     }
 
     void DefineProperties(pugi::xml_node root)
@@ -104,13 +147,19 @@ private:
             LeaveOut(from, Titled(from));
             return pugi::xml_node();
         }
+        const Deeper deeper(depth_);
+        if (depth_ > DeepestElement)
+        {
+            LeaveOut(from, Titled(from) + " more than 100 deep");
+            return pugi::xml_node();
+        }
         return element->kind == OldSkinKind::Dimension ? Dimension(*element, from, to) : Plain(*element, from, to);
     }
 
     pugi::xml_node Plain(const OldSkinElement& element, pugi::xml_node from, pugi::xml_node to)
     {
         pugi::xml_node made = to.append_child(element.name);
-        if (!Attributes(element, from, made) || (element.kind == OldSkinKind::Once && IsThereAlready(made)))
+        if (!Attributes(element, from, made) || (element.kind == OldSkinKind::Once && !IsFirst(made)))
         {
             to.remove_child(made);
             return pugi::xml_node();
@@ -138,10 +187,9 @@ private:
     }
 
     /// Two of 0.6's names may have become one.
-    static bool IsThereAlready(pugi::xml_node made)
+    bool IsFirst(pugi::xml_node made)
     {
-        const std::string name = made.attribute("name").value();
-        return made.parent().find_child_by_attribute(made.name(), "name", name.c_str()) != made;
+        return once_.insert({made.parent().hash_value(), made.attribute("name").value()}).second;
     }
 
     /// 0.6 writes "a op b" as an operator inside a, 0.8 as a and b inside an operator. Of "a op b op c" both reckon the
@@ -156,7 +204,7 @@ private:
         {
             if (op && name != "Noop")
             {
-                LeaveOut(op, "DimOperator \"" + name + "\"");
+                LeaveOut(op, "DimOperator \"" + Shortened(name) + "\"");
             }
             return Plain(element, from, to);
         }
@@ -192,7 +240,7 @@ private:
             if (!value)
             {
                 const std::string title = Titled(from);
-                const std::string quoted = " \"" + std::string(attribute.value()) + "\"";
+                const std::string quoted = " \"" + Shortened(attribute.value()) + "\"";
                 LeaveOut(from, title == from.name() + quoted ? title : title + " with " + rule.name + quoted);
                 return false;
             }
@@ -206,6 +254,7 @@ private:
 
     void NoteUnknownAttributes(const OldSkinElement& element, pugi::xml_node from)
     {
+        std::string title;
         for (const pugi::xml_attribute attribute : from.attributes())
         {
             const std::string name = attribute.name();
@@ -215,7 +264,8 @@ private:
                                            [&](const OldSkinAttribute& rule) { return name == rule.name; });
             if (!known && !schema)
             {
-                LeaveOut(from, "attribute \"" + name + "\" of " + Titled(from));
+                title = title.empty() ? Titled(from) : title;
+                LeaveOut(from, "attribute \"" + Shortened(name) + "\" of " + title);
             }
         }
     }
@@ -248,9 +298,13 @@ private:
     }
 
     const OldSkinFormat& format_;
-    const std::string& text_;
+    std::vector<std::ptrdiff_t> lineEnds_;
     OldSkinNames& names_;
     std::vector<OldSkin::LeftOut>& leftOut_;
+    const std::size_t most_;
+    int depth_ = 0;
+    /// Parent and name, of what a parent may have once under each name.
+    std::set<std::pair<std::size_t, std::string>> once_;
     bool namesPictures_ = false;
 };
 } // namespace

@@ -158,3 +158,63 @@ TEST_F(OldSkinLog, names_file_and_line_once)
     Restart();
     EXPECT_EQ(TakeLog(), lines) << "the next start has a log of its own";
 }
+
+TEST(OldSkinLeftOut, of_a_file_that_no_end_of_is_known)
+{
+    const auto translated = [](const std::string& part, int count, std::vector<OldSkin::LeftOut>& leftOut)
+    {
+        std::string file = "<Falagard>";
+        for (int i = 0; i < count; ++i)
+        {
+            file += part;
+        }
+        const ULONGLONG start = GetTickCount64();
+        EXPECT_TRUE(OldSkin().Translate(file + "</Falagard>", leftOut));
+        EXPECT_LT(GetTickCount64() - start, 20000u) << part;
+    };
+    std::vector<OldSkin::LeftOut> leftOut;
+    translated("<Nothing/>\n", 300000, leftOut);
+    ASSERT_EQ(leftOut.size(), 1001u);
+    EXPECT_EQ(leftOut[999].what, "Nothing");
+    EXPECT_EQ(leftOut[999].line, 1000);
+    EXPECT_EQ(leftOut[1000].what, "and more");
+
+    leftOut.clear();
+    std::string letters = "x";
+    while (letters.size() < 500000)
+    {
+        letters += "中";
+    }
+    translated("<Frame name=\"" + letters + "\" a='' b=''/>", 1, leftOut);
+    ASSERT_EQ(leftOut.size(), 1u);
+    EXPECT_EQ(leftOut[0].what, "Frame \"" + letters.substr(0, 199) + "...\"");
+}
+
+TEST(OldSkinLeftOut, elements_deeper_than_any_look)
+{
+    const auto nested = [](int depth)
+    {
+        std::string open;
+        std::string close;
+        for (int i = 0; i < depth; ++i)
+        {
+            open += "<Child>";
+            close += "</Child>";
+        }
+        return "<Falagard>\n" + open + close + "</Falagard>";
+    };
+    std::vector<OldSkin::LeftOut> leftOut;
+    EXPECT_TRUE(OldSkin().Translate(nested(99), leftOut));
+    EXPECT_EQ(leftOut.size(), 0u);
+    // By recursion so many would take more than a thread's stack.
+    for (const int depth : {100, 300000})
+    {
+        leftOut.clear();
+        const std::optional<std::string> text = OldSkin().Translate(nested(depth), leftOut);
+        ASSERT_TRUE(text);
+        ASSERT_EQ(leftOut.size(), 1u);
+        EXPECT_EQ(leftOut[0].what, "Child more than 100 deep");
+        EXPECT_EQ(leftOut[0].line, 2);
+        EXPECT_LT(text->size(), 40000u);
+    }
+}
