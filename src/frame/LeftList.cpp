@@ -6,6 +6,7 @@
 #include "../panels/HoverEvents.h"
 #include "../panels/Thumbnails.h"
 #include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FileImageset.h"
 #include "FrameNames.h"
 
 #include <CEGUI/Window.h>
@@ -34,6 +35,11 @@ CString PushedFile(const CString& stem)
 void SetEntryPushed(CeGuiToolBar& list, int index, bool pushed)
 {
     const CString stem = ThumbnailStem(static_cast<UINT>(index));
+    // An entry whose thumbnail could not be made has none to change; that was told when it was to be made.
+    if (!FileImagesets::IsPresent(NormalFile(stem)))
+    {
+        return;
+    }
     list.SetItemImages(index, NormalFile(stem), L"", PushedFile(stem), pushed);
 }
 } // namespace

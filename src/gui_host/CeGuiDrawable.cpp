@@ -101,7 +101,8 @@ void CeGuiDrawable::Init(int contextId)
     }
     catch (const CEGUI::Exception& failure)
     {
-        LogFailure("skin not loaded", NameBytes(failure.getMessage()));
+        const auto* provider = static_cast<const SkinResourceProvider*>(resourceProvider_.get());
+        LogFailure("skin not loaded", provider ? provider->Naming(failure.getMessage()) : NameBytes(failure.getMessage()));
         throw;
     }
     contextId_ = static_cast<unsigned int>(contextId);

@@ -4,8 +4,10 @@
 
 #include "../panels/TitleEditDialog.h"
 #include "../widgets/CeGuiToolBar.h"
+#include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
+#include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "FontInstallation.h"
 #include "SkinResourceProvider.h"
@@ -123,8 +125,17 @@ void CeGuiMainFrame::ClearAllWindows()
     CeGuiToolBar::ForgetAllWindows();
     CEGUI::WindowManager::getSingleton().destroyAllWindows();
     FileImagesets::DestroyAllImagesets();
-    CEGUI::ImageManager::getSingleton().loadImageset(SkinImagesetFile, "");
-    static_cast<SkinResourceProvider*>(system->getResourceProvider())->RereadLooks();
+    SkinResourceProvider& skin = *static_cast<SkinResourceProvider*>(system->getResourceProvider());
+    try
+    {
+        CEGUI::ImageManager::getSingleton().loadImageset(SkinImagesetFile, "");
+        skin.RereadLooks();
+    }
+    catch (const CEGUI::Exception& failure)
+    {
+        LogRaised("skin not loaded", skin.Naming(failure.getMessage()), NameBytes(failure.getMessage()));
+        throw;
+    }
 }
 
 osg::ref_ptr<osg::Group> CeGuiMainFrame::GetGUINode()

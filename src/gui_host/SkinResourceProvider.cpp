@@ -5,8 +5,12 @@
 #include "../widgets/Names.h"
 
 #include "../../platform/NativePath.h"
+#include "SkinFileKind.h"
 
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/falagard/WidgetLookManager.h>
+
+#include <windows.h>
 
 #include <algorithm>
 #include <string_view>
@@ -17,11 +21,25 @@ void SkinResourceProvider::loadRawDataContainer(const CEGUI::String& filename, C
     const CEGUI::String& group = resourceGroup.empty() ? getDefaultResourceGroup() : resourceGroup;
     const auto directory = d_resourceGroups.find(group);
     const CEGUI::String path = directory == d_resourceGroups.end() ? filename : directory->second + filename;
+    lastFile_ = NameBytes(filename);
+    lastXml_ = SkinFileKind::IsXml(lastFile_) ? lastFile_ : lastXml_;
+    const DWORD attributes = GetFileAttributesW(TextOfName(path));
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY))
+    {
+        // Some systems open a folder like a file, and give it a length that no memory has.
+        throw CEGUI::FileIOException("'" + filename + "' is a folder");
+    }
     // The base class joins a group's directory to the name; one group without a directory takes the whole path.
     const std::string native = NativePath(TextOfName(path));
     static const CEGUI::String WholePath = "whole path";
     DefaultResourceProvider::loadRawDataContainer(CEGUI::String(reinterpret_cast<const CEGUI::utf8*>(native.c_str())), output,
                                                   WholePath);
+    const std::string_view bytes(reinterpret_cast<const char*>(output.getDataPtr()), output.getSize());
+    const std::string mismatch = SkinFileKind::Mismatch(lastFile_, bytes);
+    if (!mismatch.empty())
+    {
+        throw CEGUI::FileIOException("'" + filename + "' is another kind of file: " + mismatch);
+    }
     TranslateOldSkin(filename, group, output);
 }
 
@@ -33,6 +51,14 @@ void SkinResourceProvider::RereadLooks()
     {
         CEGUI::WidgetLookManager::getSingleton().parseLookNFeelSpecificationFromFile(file, group);
     }
+}
+
+std::string SkinResourceProvider::Naming(const CEGUI::String& message) const
+{
+    const std::string text = NameBytes(message);
+    // An imageset's picture is read while the imageset is being parsed.
+    const std::string& file = text.rfind("XML", 0) == 0 ? lastXml_ : lastFile_;
+    return text.find(file) == std::string::npos ? text + " (" + file + ")" : text;
 }
 
 void SkinResourceProvider::TranslateOldSkin(const CEGUI::String& filename, const CEGUI::String& group,

@@ -22,10 +22,16 @@ public:
     /// this is due when the imageset has been made anew. Needs every window gone.
     void RereadLooks();
 
+    /// An exception's message with the file that it is about, unless it names it: the parser tells the line alone.
+    std::string Naming(const CEGUI::String& message) const;
+
 private:
     void TranslateOldSkin(const CEGUI::String& filename, const CEGUI::String& group, CEGUI::RawDataContainer& data);
 
     OldSkin oldSkin_;
+    /// The files that were asked for last, of any kind and of XML.
+    std::string lastFile_;
+    std::string lastXml_;
     /// Some files are read with every size of the window.
     std::set<std::string> told_;
     /// File and group.

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string>
 #include <vector>
 
 namespace
@@ -103,21 +104,26 @@ constexpr Skin skins[] = {
 const wchar_t* const PlayMark = L"new_skin/videoplay.png";
 const wchar_t* const Placeholder = L"new_skin/empty.png";
 
-bool Render(const Composition& inputs, const CString& picture, const Skin& skin, const CString& output)
+/// @return why the output is not there, for the log; empty when it is
+std::string Render(const Composition& inputs, const CString& picture, const Skin& skin, const CString& output)
 {
+    const auto missing = [](const CString& file) { return CString2string(file) + " is missing or no picture"; };
     const gp::Bitmap canvas = NewCanvas(ResourceFile(skin.border));
     CLSID encoder;
     if (!canvas || !GetEncoderForPath(output, encoder))
     {
-        return false;
+        return CString2string(output) + " not drawn";
     }
     {
         const gp::Graphics graphics = gp::GraphicsOf(canvas.get());
         gp::SetQuality(graphics.get(), gp::TextRenderingHintAntiAlias);
-        if (!DrawFile(graphics.get(), picture, PictureRect) ||
-            (inputs.kind == VideoKind && !DrawFile(graphics.get(), ResourceFile(PlayMark), PlayMarkRect)))
+        if (!DrawFile(graphics.get(), picture, PictureRect))
         {
-            return false;
+            return missing(picture);
+        }
+        if (inputs.kind == VideoKind && !DrawFile(graphics.get(), ResourceFile(PlayMark), PlayMarkRect))
+        {
+            return missing(ResourceFile(PlayMark));
         }
         RECT caption;
         MeasureTextSize(caption, inputs.font, inputs.caption);
@@ -125,7 +131,7 @@ bool Render(const Composition& inputs, const CString& picture, const Skin& skin,
                                   caption.right + PlateMargin, caption.bottom + PlateMargin};
         if (!DrawFile(graphics.get(), ResourceFile(skin.plate), plate))
         {
-            return false;
+            return missing(ResourceFile(skin.plate));
         }
         const gp::FontFamily family = gp::NewFontFamily(inputs.font);
         const gp::Font font = gp::NewFont(family.get(), static_cast<float>(CaptionPixels));
@@ -139,7 +145,7 @@ bool Render(const Composition& inputs, const CString& picture, const Skin& skin,
             gp::GdipDrawString(graphics.get(), inputs.caption, -1, font.get(), &place, format.get(), brush.get());
         }
     }
-    return SaveBitmap(canvas.get(), output, encoder);
+    return SaveBitmap(canvas.get(), output, encoder) ? std::string() : CString2string(output) + " not written";
 }
 } // namespace
 
@@ -176,9 +182,10 @@ CString MakeThumbnail(const CString& caption, const CString& picture, UINT index
     wanted.outputs.clear();
     for (const Skin& skin : skins)
     {
-        if (!Render(wanted, shown, skin, path + skin.suffix))
+        const std::string failure = Render(wanted, shown, skin, path + skin.suffix);
+        if (!failure.empty())
         {
-            LogFailure("thumbnail not made of", CString2string(shown));
+            LogFailure("thumbnail not made of", CString2string(shown) + " (" + failure + ")");
             return CString();
         }
         wanted.outputs.push_back(StampOf(path + skin.suffix));
