@@ -72,7 +72,7 @@ void CeGuiMainFrame::CreateRootSheet()
     CEGUI::Window* root = WindowNames::Create("DefaultWindow", FrameNames::RootSheet);
     root->setSize(CEGUI::USize(CEGUI::UDim(1, 0), CEGUI::UDim(1, 0)));
     root->setPosition(CEGUI::UVector2(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
-    root->subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnToggleFullScene));
+    root->subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnRootDoubleClick));
     root->subscribeEvent(CEGUI::Window::EventKeyDown, CEGUI::SubscriberSlot(&OnRootKeyDown));
     root->subscribeEvent(CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnRootMouseMove));
     // What no window over the scene uses is the viewer's: CEGUI would count the sheet itself as having used the wheel.

@@ -78,14 +78,16 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
     }
 }
 
-bool OnToggleFullScene(const CEGUI::EventArgs& args)
+bool OnToggleFullScene(const CEGUI::EventArgs&)
 {
-    if (static_cast<const CEGUI::MouseEventArgs&>(args).button != CEGUI::RightButton)
-    {
-        CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
-        frame.OnToolBarFullScene(!frame.IsFullScene());
-    }
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    frame.OnToolBarFullScene(!frame.IsFullScene());
     return true;
+}
+
+bool OnRootDoubleClick(const CEGUI::EventArgs& args)
+{
+    return static_cast<const CEGUI::MouseEventArgs&>(args).button == CEGUI::RightButton || OnToggleFullScene(args);
 }
 
 bool OnLeaveFullSceneClicked(const CEGUI::EventArgs&)

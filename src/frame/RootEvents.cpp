@@ -11,6 +11,7 @@
 #include <osgGA/GUIEventAdapter>
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace
@@ -28,6 +29,16 @@ void Notify(CeGuiMainFrame& frame)
     frame.NotifyHost(Command, 0);
 }
 
+/// The number that was injected. CEGUI's enumeration of scan codes does not reach as far as OSG's symbols do, so that reading one
+/// of them as such would be undefined.
+int KeyOf(const CEGUI::KeyEventArgs& args)
+{
+    int key = 0;
+    static_assert(sizeof(key) == sizeof(args.scancode));
+    std::memcpy(&key, &args.scancode, sizeof(key));
+    return key;
+}
+
 using Keys = osgGA::GUIEventAdapter;
 const KeyAction keyActions[] = {
     {Keys::KEY_Escape, Notify<GUI_CMD_KEY_ESCAPE>},
@@ -43,7 +54,7 @@ const KeyAction keyActions[] = {
 
 bool OnRootKeyDown(const CEGUI::EventArgs& args)
 {
-    const int key = static_cast<int>(static_cast<const CEGUI::KeyEventArgs&>(args).scancode);
+    const int key = KeyOf(static_cast<const CEGUI::KeyEventArgs&>(args));
     const auto action = std::find_if(std::begin(keyActions), std::end(keyActions),
                                      [&](const KeyAction& candidate) { return candidate.key == key; });
     if (action == std::end(keyActions))

@@ -12,5 +12,7 @@ class EventArgs;
 bool OnRootKeyDown(const CEGUI::EventArgs& args);
 /// The bars see the mouse.
 bool OnRootMouseMove(const CEGUI::EventArgs& args);
-/// Any button but the right one toggles full scene; also the enter-full-scene button's click.
+/// Any button but the right one toggles full scene.
+bool OnRootDoubleClick(const CEGUI::EventArgs& args);
+/// The enter-full-scene button's click, which is of no mouse button.
 bool OnToggleFullScene(const CEGUI::EventArgs& args);
