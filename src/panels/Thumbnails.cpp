@@ -60,20 +60,40 @@ std::map<CString, Composition>& KnownCompositions()
     return known;
 }
 
+/// A picture of the skin, decoded once for all entries until its file changes.
+/// @return null when the file is missing or no picture; good until the next call for the same file
+gp::GpBitmap* SkinPicture(const CString& file)
+{
+    struct Decoded
+    {
+        FileStamp stamp;
+        gp::Bitmap picture;
+    };
+    // Never destroyed on purpose: GDI+ may be gone when the module goes.
+    static auto& decoded = *new std::map<CString, Decoded>;
+    Decoded& known = decoded[file];
+    const FileStamp stamp = StampOf(file);
+    if (!known.picture || !(known.stamp == stamp))
+    {
+        known = {stamp, gp::LoadBitmapFile(file)};
+    }
+    return known.picture.get();
+}
+
 /// The border's picture as a bitmap to draw on, or a blank one.
 gp::Bitmap NewCanvas(const CString& borderFile)
 {
-    if (const gp::Bitmap border = gp::LoadBitmapFile(borderFile))
+    if (gp::GpBitmap* const border = SkinPicture(borderFile))
     {
         UINT width = 0;
         UINT height = 0;
-        gp::GdipGetImageWidth(border.get(), &width);
-        gp::GdipGetImageHeight(border.get(), &height);
+        gp::GdipGetImageWidth(border, &width);
+        gp::GdipGetImageHeight(border, &height);
         gp::Bitmap canvas = gp::Make<gp::Bitmap>(
             [&](gp::GpBitmap** copy)
             {
                 return gp::GdipCloneBitmapAreaI(0, 0, static_cast<INT>(width), static_cast<INT>(height), PixelFormat32bppARGB,
-                                                border.get(), copy);
+                                                border, copy);
             });
         if (canvas)
         {
@@ -83,11 +103,10 @@ gp::Bitmap NewCanvas(const CString& borderFile)
     return gp::NewBitmap(CanvasWidth, CanvasHeight);
 }
 
-/// False when the file cannot be loaded or drawn.
-bool DrawFile(gp::GpGraphics* canvas, const CString& file, const gp::GpRect& rect)
+/// @param picture null: nothing is drawn, and false returned
+bool Draw(gp::GpGraphics* canvas, gp::GpBitmap* picture, const gp::GpRect& rect)
 {
-    const gp::Bitmap picture = gp::LoadBitmapFile(file);
-    return picture && gp::GdipDrawImageRectI(canvas, picture.get(), rect.X, rect.Y, rect.Width, rect.Height) == gp::Ok;
+    return picture && gp::GdipDrawImageRectI(canvas, picture, rect.X, rect.Y, rect.Width, rect.Height) == gp::Ok;
 }
 
 struct Skin
@@ -104,8 +123,11 @@ constexpr Skin skins[] = {
 const wchar_t* const PlayMark = L"new_skin/videoplay.png";
 const wchar_t* const Placeholder = L"new_skin/empty.png";
 
+/// @param shown picture's file, for what is said of it
+/// @param caption its size
 /// @return why the output is not there, for the log; empty when it is
-std::string Render(const Composition& inputs, const CString& picture, const Skin& skin, const CString& output)
+std::string Render(const Composition& inputs, gp::GpBitmap* picture, const CString& shown, const RECT& caption, const Skin& skin,
+                   const CString& output)
 {
     const auto missing = [](const CString& file) { return CString2string(file) + " is missing or no picture"; };
     const gp::Bitmap canvas = NewCanvas(ResourceFile(skin.border));
@@ -117,19 +139,17 @@ std::string Render(const Composition& inputs, const CString& picture, const Skin
     {
         const gp::Graphics graphics = gp::GraphicsOf(canvas.get());
         gp::SetQuality(graphics.get(), gp::TextRenderingHintAntiAlias);
-        if (!DrawFile(graphics.get(), picture, PictureRect))
+        if (!Draw(graphics.get(), picture, PictureRect))
         {
-            return missing(picture);
+            return missing(shown);
         }
-        if (inputs.kind == VideoKind && !DrawFile(graphics.get(), ResourceFile(PlayMark), PlayMarkRect))
+        if (inputs.kind == VideoKind && !Draw(graphics.get(), SkinPicture(ResourceFile(PlayMark)), PlayMarkRect))
         {
             return missing(ResourceFile(PlayMark));
         }
-        RECT caption;
-        MeasureTextSize(caption, inputs.font, inputs.caption);
         const gp::GpRect plate = {PlateRight - PlateMargin - caption.right, PlateBottom - PlateMargin - caption.bottom,
                                   caption.right + PlateMargin, caption.bottom + PlateMargin};
-        if (!DrawFile(graphics.get(), ResourceFile(skin.plate), plate))
+        if (!Draw(graphics.get(), SkinPicture(ResourceFile(skin.plate)), plate))
         {
             return missing(ResourceFile(skin.plate));
         }
@@ -180,9 +200,12 @@ CString MakeThumbnail(const CString& caption, const CString& picture, UINT index
 
     known = Composition();
     wanted.outputs.clear();
+    const gp::Bitmap decoded = gp::LoadBitmapFile(shown);
+    RECT captionSize;
+    MeasureTextSize(captionSize, wanted.font, caption);
     for (const Skin& skin : skins)
     {
-        const std::string failure = Render(wanted, shown, skin, path + skin.suffix);
+        const std::string failure = Render(wanted, decoded.get(), shown, captionSize, skin, path + skin.suffix);
         if (!failure.empty())
         {
             LogFailure("thumbnail not made of", CString2string(shown) + " (" + failure + ")");
