@@ -10,6 +10,8 @@ else()
         set(NX_MODULE ${name})
         configure_file(${NX_MODULE_SOURCE} ${CMAKE_CURRENT_BINARY_DIR}/${name}_module.cpp @ONLY)
         add_library(${name} SHARED ${ARGN} ${CMAKE_CURRENT_BINARY_DIR}/${name}_module.cpp)
+        # The DLL's name is known to hosts, with every compiler.
+        set_target_properties(${name} PROPERTIES PREFIX "")
     endfunction()
     function(nx_use_dll target)
         target_link_libraries(${target} PRIVATE ${ARGN})
@@ -26,7 +28,8 @@ endif()
 add_library(nx_common INTERFACE)
 target_compile_definitions(nx_common INTERFACE UNICODE _UNICODE NOMINMAX)
 if(MSVC)
-    target_compile_options(nx_common INTERFACE /W4 /utf-8)
+    # Never run: nobody has compiled this with Visual C++ yet. Headers of libraries are left out of it.
+    target_compile_options(nx_common INTERFACE /W4 /WX /external:W0 /utf-8)
 else()
     target_compile_options(nx_common INTERFACE -Wall -Wextra -Werror)
     # Line numbers are enough to read a stack by, and descriptions of every type double the time to compile and link.

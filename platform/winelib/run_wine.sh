@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Starts a program built with Winelib: a Wine prefix of the build's own, the Chinese ANSI code page, and an X display of its
-# own where there is none.
+# Starts a program built with Winelib, or a true Windows one: a Wine prefix of the build's own, the Chinese ANSI code page, and an
+# X display of its own where there is none.
 #   run_wine.sh PROGRAM.exe [ARGUMENTS...]
 #   NX_CODE_PAGE_LOCALE  the locale whose ANSI code page Wine takes (zh_CN.UTF-8: 936)
 #   NX_SCREEN            size of the display that is started where there is none (1920x1200x24)
@@ -31,5 +31,8 @@ if [ "$(cat "$WINEPREFIX/managed" 2>/dev/null)" != "$managed" ]; then
     wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d "$managed" /f >/dev/null 2>&1
     echo "$managed" >"$WINEPREFIX/managed"
 fi
+# A Winelib program is a library beside the script of its name.
+program=$folder/$(basename "$program")
+[ ! -e "$program.so" ] || program=$program.so
 # Numbers stay in the C locale, which CEGUI insists on.
-exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" wine "$folder/$(basename "$program").so" "$@"
+exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" wine "$program" "$@"

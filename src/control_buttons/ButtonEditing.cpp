@@ -12,10 +12,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <string_view>
 
 namespace
 {
-const CEGUI::String ButtonPrefix = "TavGuiButton_";
+constexpr std::string_view ButtonPrefix = "TavGuiButton_";
 /// A press that moves further than this does not choose the button. View pixels.
 constexpr int ClickTolerance = 10;
 
@@ -28,7 +29,7 @@ CeGuiMainFrame& Frame()
 
 bool IsButtonName(const CEGUI::String& name)
 {
-    return name.compare(0, ButtonPrefix.length(), ButtonPrefix) == 0;
+    return name.compare(0, ButtonPrefix.length(), ButtonPrefix.data()) == 0;
 }
 } // namespace
 
@@ -44,7 +45,7 @@ void PressLeft(CPoint mouse)
     mouseFlags.pressConsumed = false;
     // The press itself has cleared the name under the mouse, so this finds none unless a slot has set it again: on purpose,
     // buttons stay where they are.
-    if (input.windowUnderMouse.find(ButtonPrefix) != CEGUI::String::npos)
+    if (input.windowUnderMouse.find(ButtonPrefix.data()) != CEGUI::String::npos)
     {
         mouseFlags.pressConsumed = mouseFlags.buttonEditMode;
         mouseFlags.buttonEditMode = true;

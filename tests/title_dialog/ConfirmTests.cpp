@@ -56,7 +56,7 @@ TEST_F(ConfirmTest, an_empty_text_is_taken)
 
 TEST_F(ConfirmTest, a_text_of_100_characters_is_taken)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     const CString text(L'城', 100);
     SetText(TextEdit, text);
     Confirm();
@@ -92,7 +92,7 @@ TEST_F(ConfirmTest, a_text_of_101_characters_is_refused)
 
 TEST_F(ConfirmTest, a_color_that_is_not_chosen_changes_nothing)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     {
         const PopupAnswer cancel([](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
         Press(ColorButton);
@@ -105,7 +105,7 @@ TEST_F(ConfirmTest, a_color_that_is_not_chosen_changes_nothing)
 
 TEST_F(ConfirmTest, while_a_color_is_chosen_neither_dialog_nor_frame_takes_input)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     bool dialogEnabled = true;
     bool mainEnabled = true;
     {

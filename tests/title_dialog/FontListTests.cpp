@@ -74,7 +74,7 @@ TEST_F(FontListTest, a_name_that_begins_another_is_left_out_after_it)
 
 TEST_F(FontListTest, holds_the_installed_fonts_once_each)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     const Names entries = Entries(Control(FontList));
     EXPECT_EQ(std::set<std::string>(entries.begin(), entries.end()).size(), entries.size());
     ASSERT_FALSE(InstalledFontNames().empty());
@@ -124,7 +124,7 @@ TEST_F(FontListTest, holds_shape_fonts_by_their_file_names_and_no_folders)
     const ShxFile other(L"nxshape.txt");
     const CString folder = AppDir() + L"Fonts\\nxfolder.shx";
     CreateDirectoryW(folder, nullptr);
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     const Names entries = Entries(Control(FontList));
     RemoveDirectoryW(folder);
     EXPECT_EQ(std::count(entries.begin(), entries.end(), "nxshape.SHX"), 1);
@@ -148,7 +148,7 @@ TEST_F(FontListTest, without_the_folder_of_shape_fonts_holds_the_installed_ones)
 
 TEST_F(FontListTest, is_sorted)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     EXPECT_TRUE(GetWindowLongPtrW(Control(FontList), GWL_STYLE) & CBS_SORT);
     EXPECT_EQ(Filled({L"Beta", L"Alpha", L"Gamma"}), (Names{"Alpha", "Beta", "Gamma"}));
 }
@@ -180,7 +180,7 @@ TEST_F(FontListTest, a_shape_font_leaves_no_text_and_a_line_in_the_log_until_ano
 
 TEST_F(FontListTest, a_choice_that_is_none_keeps_the_font)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SendMessageW(Control(FontList), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     SendMessageW(Dialog(), WM_COMMAND, MAKEWPARAM(FontList, CBN_SELCHANGE), reinterpret_cast<LPARAM>(Control(FontList)));
     Confirm();

@@ -25,7 +25,7 @@ protected:
 
 TEST_F(KeyboardTest, tab_goes_through_the_controls_and_around)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     EXPECT_EQ(Focused(), TextEdit);
     for (const int id : {FontList, HeightEdit, ColorButton, IDOK, IDCANCEL, TextEdit})
     {
@@ -36,7 +36,7 @@ TEST_F(KeyboardTest, tab_goes_through_the_controls_and_around)
 
 TEST_F(KeyboardTest, enter_confirms)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SetText(TextEdit, L"By Enter");
     Key(VK_RETURN);
     EXPECT_FALSE(IsShown());
@@ -45,7 +45,7 @@ TEST_F(KeyboardTest, enter_confirms)
 
 TEST_F(KeyboardTest, enter_in_the_height_keeps_the_dialog_open_over_a_bad_number)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SetFocus(Control(HeightEdit));
     SendMessageW(Control(HeightEdit), EM_SETSEL, 0, -1);
     for (const wchar_t digit : {L'2', L'5', L'0'})
@@ -71,7 +71,7 @@ TEST_F(KeyboardTest, escape_closes)
 
 TEST_F(KeyboardTest, space_presses_the_color_button)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SetFocus(Control(ColorButton));
     const PopupAnswer cancel([](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
     Key(VK_SPACE);
@@ -80,7 +80,7 @@ TEST_F(KeyboardTest, space_presses_the_color_button)
 
 TEST_F(KeyboardTest, arrows_choose_a_font)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SendMessageW(Control(FontList), CB_SETCURSEL, 0, 0);
     SetFocus(Control(FontList));
     Key(VK_DOWN);
@@ -113,7 +113,7 @@ TEST_F(KeyboardTest, keys_do_not_reach_the_view_while_the_dialog_has_the_focus)
 
 TEST_F(KeyboardTest, text_is_typed)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     SendMessageW(Control(TextEdit), EM_SETSEL, 0, -1);
     for (const wchar_t unit : {L'N', L'e', L'w', L' ', L'新'})
     {

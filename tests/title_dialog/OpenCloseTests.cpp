@@ -60,7 +60,7 @@ TEST_F(OpenCloseTest, for_the_restricted_user_nothing_opens)
 TEST_F(OpenCloseTest, shows_the_title_and_its_labels)
 {
     Frame().ChangeTitleText(L"河滨 Plan", 0x00336699, Font, 24.5f);
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     EXPECT_EQ(Utf8(ControlText(TextEdit)), "河滨 Plan");
     EXPECT_EQ(Utf8(ControlText(HeightEdit)), "24.5");
     EXPECT_EQ(Utf8(SelectedFont()), Utf8(Font));
@@ -77,7 +77,7 @@ TEST_F(OpenCloseTest, shows_the_title_and_its_labels)
 
 TEST_F(OpenCloseTest, stands_in_the_middle_of_the_desktop)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     CRect desktop;
     CRect dialog;
     GetWindowRect(GetDesktopWindow(), desktop);
@@ -89,7 +89,7 @@ TEST_F(OpenCloseTest, stands_in_the_middle_of_the_desktop)
 TEST_F(OpenCloseTest, the_color_button_is_the_color_all_over)
 {
     Frame().SetSceneTitleColor(0x00336699);
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     Host().Frames(1);
     UpdateWindow(Control(ColorButton));
     CRect rect;
@@ -104,7 +104,7 @@ TEST_F(OpenCloseTest, the_color_button_is_the_color_all_over)
 
 TEST_F(OpenCloseTest, opening_twice_shows_the_same_one)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     const HWND first = Dialog();
     SetText(TextEdit, L"begun");
     OpenTitleEditDialog();

@@ -139,7 +139,7 @@ TEST_F(TemplateTest, the_list_of_fonts_stands_between_text_and_height)
 
 TEST_F(TemplateTest, its_own_dialog_keeps_the_places)
 {
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     RECT expected = {60, 14, 147, 28};
     MapDialogRect(Dialog(), &expected);
     RECT seen = {};
@@ -156,6 +156,6 @@ TEST_F(TemplateTest, the_chinese_dialog_is_there_with_its_check_box_for_hosts)
     EXPECT_EQ(dialog.Text(0), "修改标题");
     EXPECT_EQ(dialog.Text(Shadow), "是否显示阴影");
     EXPECT_EQ(ClassOf(GetDlgItem(dialog.Window(), Shadow)), "button");
-    OpenByDoubleClick();
+    OpenTitleEditDialog();
     EXPECT_FALSE(Control(Shadow)) << "not in the one that is used";
 }

@@ -8,6 +8,7 @@
 #include <osg/CullFace>
 #include <osg/Depth>
 #include <osg/Geode>
+#include <osg/Geometry>
 #include <osg/LineWidth>
 #include <osg/PolygonOffset>
 

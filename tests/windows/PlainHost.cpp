@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The tests' host without a view: its main window and its message queue are there, and no interface is ever started. What the
+// library has to say goes to the debugger's output then.
+#include "support/Gui.h"
+
+#include <KernelCommonUse/StringConvert.h>
+
+#include <windows.h>
+
+#include <stdexcept>
+
+namespace
+{
+/// A test that asks for what only a view has fails.
+[[noreturn]] void NoView()
+{
+    throw std::logic_error("there is no view here");
+}
+
+const wchar_t* const MainClass = L"NxGuiTestMain";
+GuiHost* currentHost = nullptr;
+
+std::vector<std::string>& Told()
+{
+    static std::vector<std::string> lines;
+    return lines;
+}
+
+/// Each line for the debugger is an exception that nobody else sees.
+LONG CALLBACK NoteLine(EXCEPTION_POINTERS* raised)
+{
+    const EXCEPTION_RECORD& record = *raised->ExceptionRecord;
+    if (record.ExceptionCode == DBG_PRINTEXCEPTION_C && record.NumberParameters >= 2)
+    {
+        std::string line = CString2string(CString(reinterpret_cast<const char*>(record.ExceptionInformation[1])));
+        const std::size_t own = line.find("NxOsgCeGui: ");
+        if (own != std::string::npos)
+        {
+            Told().push_back(line.substr(own, line.find('\n', own) - own));
+        }
+    }
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+void* const noting = AddVectoredExceptionHandler(1, &NoteLine);
+
+LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (currentHost && currentHost->onMainWindowMessage)
+    {
+        currentHost->onMainWindowMessage(message, wParam, lParam);
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+} // namespace
+
+GuiHost::GuiHost(int width, int height, osg::Node*) : width_(width), height_(height)
+{
+    WNDCLASSW windowClass = {};
+    windowClass.hInstance = GetModuleHandleW(nullptr);
+    windowClass.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    windowClass.lpfnWndProc = MainProcedure;
+    windowClass.lpszClassName = MainClass;
+    RegisterClassW(&windowClass);
+    main_ = CreateWindowExW(0, MainClass, L"test host", WS_POPUP | WS_VISIBLE, 0, 0, width, height, nullptr, nullptr,
+                            windowClass.hInstance, nullptr);
+    mainWnd_.Attach(main_);
+    AfxGetApp()->m_pMainWnd = &mainWnd_;
+    currentHost = this;
+}
+
+GuiHost::~GuiHost()
+{
+    currentHost = nullptr;
+    AfxGetApp()->m_pMainWnd = nullptr;
+    mainWnd_.Detach();
+    DestroyWindow(main_);
+}
+
+void GuiHost::Pump()
+{
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+    {
+        if (!AfxPreTranslateMessage(&message))
+        {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+}
+
+void GuiHost::Frames(int)
+{
+    Pump();
+}
+
+void GuiHost::Close() {}
+
+void GuiHost::MoveMouse(int, int)
+{
+    NoView();
+}
+
+void GuiHost::Press(int, int)
+{
+    NoView();
+}
+
+void GuiHost::Release(int, int)
+{
+    NoView();
+}
+
+void GuiHost::Click(int, int)
+{
+    NoView();
+}
+
+void GuiHost::RightClick(int, int)
+{
+    NoView();
+}
+
+void GuiHost::DoubleClick(int, int)
+{
+    NoView();
+}
+
+void GuiHost::Key(UINT)
+{
+    NoView();
+}
+
+Screenshot GuiHost::Shoot()
+{
+    NoView();
+}
+
+std::vector<WPARAM> GuiHost::TakeCodes()
+{
+    NoView();
+}
+
+CPoint GuiHost::CentreOf(const char*)
+{
+    NoView();
+}
+
+std::vector<std::string> LogLines()
+{
+    return Told();
+}
