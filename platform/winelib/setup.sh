@@ -3,9 +3,11 @@
 # Makes a Debian 12 machine ready and builds: what run.sh and test.sh have in common. Says what it does, and stops with one
 # line at the first thing that fails.
 #   setup.sh [TARGET...]   without a target: everything
+#   NX_BUILD        the build folder (build)
+#   NX_CONFIGURE    options for CMake, when that folder is configured
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
-build=$root/build
+build=${NX_BUILD:-$root/build}
 packages=(wine wine64 libwine-dev wine64-tools g++ cmake ninja-build pkg-config libopenscenegraph-dev libcegui-mk2-dev
     libglew-dev libglm-dev libgl1-mesa-dri libx11-dev libxcomposite1 libxcursor1 libxi6 libxrandr2 xvfb xauth imagemagick
     libgtest-dev libpugixml-dev librsvg2-bin fonts-noto-cjk fonts-dejavu-core fonts-wine dpkg-dev
@@ -64,7 +66,7 @@ configure()
     fi
     say "configuring (fetches the source package of OpenSceneGraph the first time)"
     rm -rf "$build/CMakeCache.txt" "$build/CMakeFiles"
-    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$root/platform/winelib/toolchain.cmake" \
+    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$root/platform/winelib/toolchain.cmake" ${NX_CONFIGURE:-} \
         >"$build/configure.log" 2>&1 || fail "configuring (see $build/configure.log)"
 }
 

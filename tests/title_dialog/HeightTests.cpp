@@ -150,8 +150,9 @@ TEST_F(HeightTest, only_numbers_can_be_pasted)
 
 TEST_F(HeightTest, a_hosts_height_outside_the_limits_is_shown_as_one_inside)
 {
-    const std::vector<std::pair<float, std::string>> rows = {{150.0f, "100"}, {1e9f, "100"},   {0.0f, "16"},   {-3.0f, "16"},
-                                                             {1e-12f, "16"},  {100.0f, "100"}, {0.25f, "0.25"}};
+    const std::vector<std::pair<float, std::string>> rows = {{150.0f, "100"}, {1e9f, "100"},      {0.0f, "16"},
+                                                             {-3.0f, "16"},   {1e-12f, "16"},     {100.0f, "100"},
+                                                             {0.25f, "0.25"}, {0.0001f, "0.0001"}};
     for (const auto& [height, shown] : rows)
     {
         Frame().SetSceneTitleFontHeight(height);
