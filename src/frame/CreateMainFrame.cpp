@@ -20,8 +20,6 @@
 
 namespace
 {
-const char* const SkinImageset = "TavLook";
-
 CEGUI::GUIContext& Gui()
 {
     return CEGUI::System::getSingleton().getDefaultGUIContext();
@@ -41,15 +39,15 @@ bool CeGuiMainFrame::CreateMainFrame()
     const ParsingLocale locale;
     MakeContextCurrent();
     ReleaseBars();
-    ForgetTold();
     try
     {
         CreateRootSheet();
-        if (!FileImagesets::IsSkinImagesetPresent(SkinImageset))
+        if (!FileImagesets::IsSkinImagesetPresent(FrameNames::SkinImageset))
         {
-            LogFailure("frame not built, imageset not loaded", SkinImageset);
+            LogDropped("frame not built", FrameNames::SkinImageset, FrameNames::NoSkinImageset);
             return false;
         }
+        ForgetTold();
         CreateTitleBar();
         CreateBorders();
         CreateBottomToolBar();

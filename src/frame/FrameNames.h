@@ -21,4 +21,7 @@ constexpr const wchar_t* ToolButton = L"TavToolButtom_%d"; ///< counted from 1
 constexpr int ListTool = 1;
 constexpr int PropertyTool = 4;
 constexpr const wchar_t* LeftList = L"TavLeftCtrlFrame";
+constexpr const char* SkinImageset = "TavLook";
+/// Why there is no frame without it; told in the log by whoever failed to load it.
+constexpr const char* NoSkinImageset = "imageset not loaded";
 } // namespace FrameNames

@@ -35,6 +35,7 @@ namespace
 const char* const SkinGroup = "skindir";
 const char* const SchemeFile = "TavLookSkin.scheme";
 const char* const LogFile = "CEGUI.log";
+const char* const SkinParameter = "CEGUI_SkinDir";
 
 bool ForgetDestroyedWindow(const CEGUI::EventArgs& args)
 {
@@ -102,7 +103,12 @@ void CeGuiDrawable::Init(int contextId)
     catch (const CEGUI::Exception& failure)
     {
         const auto* provider = static_cast<const SkinResourceProvider*>(resourceProvider_.get());
-        LogFailure("skin not loaded", provider ? provider->Naming(failure.getMessage()) : NameBytes(failure.getMessage()));
+        std::string told = provider ? provider->Naming(failure.getMessage()) : NameBytes(failure.getMessage());
+        if (CParamConfig::getInstance()->getStringParam(SkinParameter).empty())
+        {
+            told += " (config\\parameters.ini has no " + std::string(SkinParameter) + ")";
+        }
+        LogFailure("skin not loaded", told);
         throw;
     }
     contextId_ = static_cast<unsigned int>(contextId);
@@ -128,7 +134,7 @@ void CeGuiDrawable::Config()
 {
     CString skin = L"cegui\\TavLook\\";
     // The parameter replaces the default also when it is missing: the skin directory is a setting, not a guess.
-    skin = _a2w(CParamConfig::getInstance()->getStringParam("CEGUI_SkinDir"));
+    skin = _a2w(CParamConfig::getInstance()->getStringParam(SkinParameter));
     const CString directory = SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath() + skin;
     static_cast<CEGUI::DefaultResourceProvider*>(system_->getResourceProvider())
         ->setResourceGroupDirectory(SkinGroup, GuiName(directory));

@@ -225,5 +225,10 @@ bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg
     {
         LogFailure("event not carried out", failure.what());
     }
+    catch (...)
+    {
+        // A host's slot may throw what it likes; the viewer goes on with the event.
+        LogFailure("event not carried out", "an exception of no known kind");
+    }
     return false;
 }

@@ -2,6 +2,7 @@
 // Start and end of the interface, and its link to the host's viewer and window.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../frame/FrameNames.h"
 #include "../panels/TitleEditDialog.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
@@ -20,6 +21,8 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 
+#include <osg/State>
+#include <osg/observer_ptr>
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
 #include <optional>
@@ -31,6 +34,32 @@ const char* const SkinImagesetFile = "TavLook.imageset";
 const char* const TitleFontFile = "youyuan.ttf";
 const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
 const wchar_t* const LeftListFrame = L"TavLeftCtrlFrame";
+
+/// Of the context that CEGUI has been started in: its textures live there.
+osg::observer_ptr<osg::State> startedIn;
+
+/// Whether what CEGUI has made lives in another context than this one: in one that is closed, most likely.
+bool LivesElsewhere(const osg::GraphicsContext& context)
+{
+    return CEGUI::System::getSingletonPtr() && startedIn.get() != context.getState();
+}
+
+/// Ends CEGUI in its own context. Where that is gone its textures are gone, too, and no context may be current whose textures
+/// would be taken for them.
+void Finish(CeGuiDrawable& drawable, osg::GraphicsContext* present)
+{
+    if (present && LivesElsewhere(*present))
+    {
+        present->releaseContext();
+        osg::ref_ptr<osg::State> own;
+        if (startedIn.lock(own) && own->getGraphicsContext() && own->getGraphicsContext()->isRealized())
+        {
+            own->getGraphicsContext()->makeCurrent();
+        }
+    }
+    drawable.Finish();
+    startedIn = nullptr;
+}
 
 void ReleaseDrawable(osg::ref_ptr<CeGuiDrawable>& drawable, osg::ref_ptr<osg::Camera>& camera)
 {
@@ -87,7 +116,9 @@ void CeGuiMainFrame::InitGuiDrawable()
 {
     if (drawable_ && MakeContextCurrent())
     {
-        drawable_->Init(static_cast<int>(viewer_->getCamera()->getGraphicsContext()->getState()->getContextID()));
+        osg::State& state = *viewer_->getCamera()->getGraphicsContext()->getState();
+        drawable_->Init(static_cast<int>(state.getContextID()));
+        startedIn = &state;
     }
 }
 
@@ -103,7 +134,7 @@ void CeGuiMainFrame::CloseGuiSystem()
     }
     MakeContextCurrent();
     hudCamera_->removeChildren(0, hudCamera_->getNumChildren());
-    drawable_->Finish();
+    Finish(*drawable_, ViewerWindow());
     drawable_ = nullptr;
     hudCamera_ = nullptr;
     frameTable_.clear();
@@ -115,6 +146,15 @@ void CeGuiMainFrame::CloseGuiSystem()
 
 void CeGuiMainFrame::ClearAllWindows()
 {
+    osgViewer::GraphicsWindow* window = ViewerWindow();
+    if (drawable_ && window && window->isRealized() && LivesElsewhere(*window))
+    {
+        // The host has closed its viewer's window and made another one.
+        Finish(*drawable_, window);
+        InitGuiDrawable();
+        CEGUI::System::getSingleton().notifyDisplaySizeChanged(
+            CEGUI::Sizef(static_cast<float>(windowWidth_), static_cast<float>(windowHeight_)));
+    }
     CEGUI::System* system = CEGUI::System::getSingletonPtr();
     if (!system || !MakeContextCurrent())
     {
@@ -133,8 +173,8 @@ void CeGuiMainFrame::ClearAllWindows()
     }
     catch (const CEGUI::Exception& failure)
     {
-        LogRaised("skin not loaded", skin.Naming(failure.getMessage()), NameBytes(failure.getMessage()));
-        throw;
+        // Without it there is no frame, but a host that only wants everything gone has what it wants.
+        LogRaised("skin not loaded", skin.Naming(failure.getMessage()), FrameNames::NoSkinImageset);
     }
 }
 
@@ -153,7 +193,8 @@ osgViewer::GraphicsWindow* CeGuiMainFrame::ViewerWindow()
 bool CeGuiMainFrame::MakeContextCurrent()
 {
     osgViewer::GraphicsWindow* context = ViewerWindow();
-    return context && context->getState() && context->makeCurrent();
+    // In another context than CEGUI's the pictures of the interface would be mistaken for the scene's.
+    return context && context->getState() && !LivesElsewhere(*context) && context->makeCurrent();
 }
 
 HWND CeGuiMainFrame::GetHwnd()

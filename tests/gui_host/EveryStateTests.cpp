@@ -2,6 +2,8 @@
 // Every operation in every state that a host can bring the interface into.
 #include "support/HostedFrame.h"
 
+#include <NxOsgCeGui/TitleDialog.h>
+
 #include <functional>
 #include <utility>
 
@@ -332,6 +334,43 @@ TEST_F(EveryOperation, is_safe_when_the_viewer_has_lost_its_window)
     EXPECT_EQ(Frame().GetHwnd(), nullptr);
     RunAll(Frame());
     camera.setGraphicsContext(context);
+}
+
+TEST_F(EveryOperation, is_safe_while_the_title_is_edited)
+{
+    OpenTitleEditDialog();
+    RunAll(Frame());
+    Host().Frames(2);
+    CloseTitleEditDialog();
+}
+
+TEST_F(EveryOperation, is_safe_in_a_view_of_one_pixel)
+{
+    Host().Resize(1, 1);
+    RunAll(Frame());
+    Host().Frames(2);
+    Host().Resize(ViewWidth, ViewHeight);
+}
+
+TEST_F(EveryOperation, is_safe_when_the_viewers_context_is_closed)
+{
+    Host().Close();
+    GuiHost other(320, 240);
+    other.Start();
+    other.Viewer().getCamera()->getGraphicsContext()->close();
+    RunAll(Frame());
+    EXPECT_TRUE(Frame().IsInit());
+}
+
+TEST_F(EveryOperation, is_safe_and_raises_nothing_without_the_skins_imageset)
+{
+    const FileTaken imageset(SkinDir() + L"TavLook.imageset");
+    EXPECT_NO_THROW(Frame().ClearAllWindows());
+    EXPECT_FALSE(Frame().CreateMainFrame());
+    EXPECT_EQ(CountLogLines("TavLook.imageset"), 1) << "once for both";
+    RunAll(Frame());
+    Host().Frames(2);
+    EXPECT_EQ(Host().Find("TavTitleBackground"), nullptr);
 }
 
 TEST_F(EveryOperation, input_is_safe_without_a_frame)
