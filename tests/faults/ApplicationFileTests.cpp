@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// The application's other files: settings, languages, shaders, fonts, menus and the start page's pictures.
+#include "FaultTest.h"
+#include "SpoiltFile.h"
+
+#include <KernelCommonUse/StringConvert.h>
+#include <MFCCommon/DynMenuCreater.h>
+#include <NxConfig/SystemUtility.h>
+
+#include <set>
+#include <string>
+
+namespace
+{
+/// Makes the services read their files again.
+void Reread()
+{
+    const CString app = AppDir();
+    SystemUtility::SetAppPath(app + L"..\\");
+    SystemUtility::SetAppPath(app);
+}
+
+class ApplicationFiles : public FaultTest
+{
+protected:
+    static void UseAll()
+    {
+        Host().Frames(2);
+        UseEverything();
+        Frame().ClearStaPageParameter();
+        Frame().ClearTitleSet();
+        CDynMenuCreater().Load(SystemUtility::GetSysMidPath(nullptr, nullptr) + L"RButtonMenu.xml");
+        Host().Frames(1);
+    }
+    void ExpectMended()
+    {
+        Reread();
+        ASSERT_TRUE(Start());
+        Host().MoveMouse(Width / 2, Height / 2);
+        EXPECT_TRUE(Stands());
+        UseAll();
+        EXPECT_EQ(NewLog(), Lines{});
+        ExpectAnswers();
+    }
+    static std::set<CString> Used()
+    {
+        return {L"config\\directories.ini",    L"config\\parameters.ini",
+                L"exeFiles\\shader\\cegui.fs", L"exeFiles\\shader\\cegui.vs",
+                L"fonts\\youyuan.ttf",         L"languages\\zh-CN.ini",
+                L"resource\\exeGuiImage2.bmp", L"resource\\pics\\kwexeGuiImage.bmp",
+                L"sysmid\\RButtonMenu.xml"};
+    }
+};
+} // namespace
+
+TEST_F(ApplicationFiles, spoilt_at_the_start_are_survived_and_the_next_start_mends_it)
+{
+    std::set<CString> seen;
+    for (const CString& file : FilesOf(AppDir()))
+    {
+        if (Used().count(file) == 0)
+        {
+            continue;
+        }
+        seen.insert(file);
+        for (const Spoiling& way : AnyFile())
+        {
+            const Fault fault(Utf8(file) + ": " + way.name);
+            {
+                const auto spoilt = way.spoil(AppDir() + file);
+                Reread();
+                const bool started = Start();
+                Lines log = NewLog();
+                EXPECT_EQ(started, Frame().IsInit());
+                EXPECT_EQ(started, Stands()) << testing::PrintToString(log);
+                UseAll();
+                const Lines more = NewLog();
+                log.insert(log.end(), more.begin(), more.end());
+                EXPECT_TRUE(started || !log.empty());
+                // A start that fails for want of settings tells where they are looked for.
+                EXPECT_TRUE(started || log.back().find("parameters.ini") != std::string::npos) << testing::PrintToString(log);
+            }
+            ExpectMended();
+        }
+    }
+    EXPECT_EQ(seen, Used()) << "a file of the application has moved";
+    EXPECT_EQ(UnfinishedFiles(AppDir()), Lines{});
+}
+
+TEST_F(ApplicationFiles, fonts_that_are_absent_leave_texts_out_and_are_told)
+{
+    const Fault fault("no font of those that are wanted");
+    const CString table = AppDir() + L"languages\\zh-CN.ini";
+    const Bytes words = ReadBytes(table);
+    std::string text(words.begin(), words.end());
+    const std::size_t key = text.find("LKEY11=");
+    ASSERT_NE(key, std::string::npos);
+    text.replace(key, text.find('\n', key) - key, "LKEY11=No Such Family");
+    {
+        const FileReplaced replaced(table, Bytes(text.begin(), text.end()));
+        const FileTaken font(AppDir() + L"fonts\\youyuan.ttf");
+        Reread();
+        Frame().SetSceneTitleFontStyle(L"No Such Family");
+        ASSERT_TRUE(Start());
+        Host().Frames(2);
+        EXPECT_TRUE(Stands());
+        EXPECT_EQ(Without(NewLog(), "No Such Family"), Lines{});
+        Frame().OpenPropertyDlg(nullptr, true);
+        Frame().CreateTooltipWindow(10, 100, L"tooltip");
+        Frame().ChangeTitleText(L"title", 0, L"No Such Family", 20.0f);
+        Host().Frames(1);
+        EXPECT_EQ(Without(NewLog(), "No Such Family"), Lines{});
+        EXPECT_GT(ReadPictureFile(SkinDir() + L"tavtooltipimgfile.bmp").width, 0);
+        Frame().DestroyTooltipWindow();
+        Frame().OpenPropertyDlg(nullptr, false);
+        ExpectAnswers();
+        NewLog();
+    }
+    Frame().SetSceneTitleFontStyle(TitleFont);
+    ExpectMended();
+}

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Every file of the skin, spoilt in every way.
+#include "FaultTest.h"
+#include "SpoiltFile.h"
+
+#include <widgets/ImageEncoder.h>
+
+#include <algorithm>
+#include <set>
+
+namespace
+{
+/// What the interface starts with.
+const wchar_t* const startFiles[] = {L"TavLookSkin.scheme", L"TavLook.looknfeel", L"TavLook.imageset", L"TavLook.png"};
+/// One picture of each use: a bar, an item, a thumbnail's part, the panel, the thumb, the skin's own imageset.
+const wchar_t* const thorough[] = {L"new_skin\\topBG.png",
+                                   L"new_skin\\logo.png",
+                                   L"new_skin\\empty.png",
+                                   L"new_skin\\DlgPropertyTemple.png",
+                                   L"new_skin\\verticalscrollbar.png",
+                                   L"TavLook.png"};
+
+bool IsPicture(const CString& file)
+{
+    return GetFileExtension(file) == L"png";
+}
+
+/// Without what the interface writes itself, and without what a skin's pictures are drawn from.
+std::vector<CString> ListSkinFiles()
+{
+    std::vector<CString> files = FilesOf(SkinDir());
+    files.erase(std::remove_if(files.begin(), files.end(),
+                               [](const CString& file) { return GetFileExtension(file) == L"bmp" || file.Find(L"art\\") == 0; }),
+                files.end());
+    return files;
+}
+
+std::vector<Spoiling> WaysFor(const CString& file)
+{
+    std::vector<Spoiling> ways = AnyFile();
+    const auto add = [&](const std::vector<Spoiling>& more) { ways.insert(ways.end(), more.begin(), more.end()); };
+    if (!IsPicture(file))
+    {
+        add(MoreForTexts());
+        return ways;
+    }
+    add(AnyPicture());
+    if (std::find(std::begin(thorough), std::end(thorough), file) != std::end(thorough))
+    {
+        add(MoreForPictures());
+    }
+    return ways;
+}
+
+class SkinFiles : public FaultTest
+{
+protected:
+    void SetUp() override
+    {
+        FaultTest::SetUp();
+        good_ = Seen();
+    }
+    /// The bare name, as the log gives it behind any kind of separator.
+    static std::string NameIn(const CString& file) { return Utf8(file.Mid(file.ReverseFind(L'\\') + 1)); }
+
+    /// Builds the frame with the file spoilt, and uses it.
+    /// @return whether the file was missed
+    bool Use(const CString& file, const Spoiling& way)
+    {
+        const auto spoilt = way.spoil(SkinDir() + file);
+        const bool same = SeenAfterRebuild() == good_;
+        Lines log = NewLog();
+        // Each thumbnail that lacks the file is a line, and they are the same.
+        EXPECT_LE(std::set<std::string>(log.begin(), log.end()).size(), 1u) << testing::PrintToString(log);
+        EXPECT_TRUE(Stands() || !log.empty());
+        EXPECT_TRUE(same || !way.broken || !log.empty()) << "the frame looks otherwise, and nothing says why";
+        if (log.empty())
+        {
+            UseEverything();
+            log = NewLog();
+        }
+        EXPECT_EQ(Without(log, NameIn(file)), Lines{});
+        EXPECT_TRUE(way.broken || log.empty()) << testing::PrintToString(log);
+        return !log.empty();
+    }
+    void ExpectMended()
+    {
+        EXPECT_TRUE(SeenAfterRebuild() == good_);
+        EXPECT_EQ(NewLog(), Lines{});
+    }
+
+    std::vector<std::uint8_t> good_;
+};
+} // namespace
+
+TEST_F(SkinFiles, spoilt_while_the_frame_stands_are_told_and_the_next_resize_mends_it)
+{
+    const std::vector<CString> files = ListSkinFiles();
+    ASSERT_GT(files.size(), 40u);
+    int read = 0;
+    for (const CString& file : files)
+    {
+        for (const Spoiling& way : WaysFor(file))
+        {
+            const Fault fault(Utf8(file) + ": " + way.name);
+            const bool missed = Use(file, way);
+            ExpectMended();
+            // The first way is that it is missing: a file that nobody misses need not be spoilt in other ways.
+            if (way.name == AnyFile()[0].name && !missed)
+            {
+                break;
+            }
+            read += way.name == AnyFile()[0].name;
+        }
+    }
+    EXPECT_GT(read, 40);
+    EXPECT_EQ(UnfinishedFiles(SkinDir()), Lines{});
+}
+
+TEST_F(SkinFiles, spoilt_at_the_start_are_told_and_the_next_start_mends_it)
+{
+    for (const wchar_t* file : startFiles)
+    {
+        for (const Spoiling& way : WaysFor(file))
+        {
+            const Fault fault(Utf8(file) + " at the start: " + way.name);
+            {
+                const auto spoilt = way.spoil(SkinDir() + file);
+                const bool started = Start();
+                const Lines log = NewLog();
+                EXPECT_EQ(started, log.empty()) << testing::PrintToString(log);
+                EXPECT_EQ(Without(log, NameIn(file)), Lines{});
+                EXPECT_LE(log.size(), 1u) << testing::PrintToString(log);
+                EXPECT_EQ(started, Frame().IsInit());
+                EXPECT_TRUE(way.broken || started);
+                Host().Frames(2);
+            }
+            ASSERT_TRUE(Start());
+            Host().MoveMouse(Width / 2, Height / 2);
+            EXPECT_TRUE(Seen() == good_);
+            EXPECT_EQ(NewLog(), Lines{});
+        }
+    }
+}
