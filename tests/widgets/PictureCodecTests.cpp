@@ -107,6 +107,13 @@ TEST(PictureCodec, gif_is_read)
     ExpectPixels(Encoded(Solid(5, 4, 0xFFFF0000), L"image/gif"), Solid(5, 4, 0xFFFF0000));
 }
 
+TEST(PictureCodec, gif_keeps_what_is_at_least_half_opaque_in_the_nearest_of_six_levels)
+{
+    const Argb picture = {3, 2, {0xFFFF0000, 0x80FF0000, 0x7FFF0000, 0x00FF0000, 0xFF203080, 0xFFE0D090}};
+    const Argb shown = {3, 2, {0xFFFF0000, 0xFFFF0000, 0x00000000, 0x00000000, 0xFF333399, 0xFFCCCC99}};
+    ExpectPixels(Encoded(picture, L"image/gif"), shown);
+}
+
 TEST(PictureCodec, jpeg_is_read)
 {
     ExpectPixels(Encoded(Solid(16, 8, 0xFF336699), L"image/jpeg"), Solid(16, 8, 0xFF336699), 4);
