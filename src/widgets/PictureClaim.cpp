@@ -76,7 +76,8 @@ bool Bitmap(const FileBytes& file)
         const std::uint32_t height = file.U32(22);
         claim.Add(file.U32(18), std::min(height, 0 - height));
     }
-    return claim.Fits(file.Size(), Packed::Runs);
+    // Not every decoder stands pixels that lie behind the end of the file.
+    return file.U32(10) < file.Size() && claim.Fits(file.Size(), Packed::Runs);
 }
 
 std::size_t BehindSubBlocks(const FileBytes& file, std::size_t at)

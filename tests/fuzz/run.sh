@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the targets with Clang's sanitizers and lets libFuzzer look for bytes that they do not stand, each for a while. Ends with 1
-# when it found some; they lie in build/fuzz/run/TARGET/found, and belong into the corpus once the library is mended.
+# Builds the targets with Clang's sanitizers and lets libFuzzer look for bytes that they do not stand, each for a while. Ends
+# with 1 when it found some; they lie in build/fuzz/run/TARGET/found, and belong into the corpus once the library is mended.
 #   run.sh [SECONDS [TARGETS...]]
 #   run.sh 0 TARGET FILE...   runs a target on these files alone
 set -euo pipefail
@@ -35,7 +35,8 @@ sanitizer=$runtime/libclang_rt.asan-x86_64.so
 flags="-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr,function -fno-sanitize-recover=undefined"
 flags="$flags -mllvm -asan-stack=0 -fno-omit-frame-pointer -w -Wno-narrowing"
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$root/platform/winelib/toolchain.cmake" -DNX_FUZZ=ON \
-    -DNX_PRECOMPILED_HEADERS=OFF "-DCMAKE_CXX_FLAGS=$flags" "-DCMAKE_CXX_STANDARD_LIBRARIES=$fuzzer $sanitizer" >"$build/configure.log"
+    -DNX_PRECOMPILED_HEADERS=OFF "-DCMAKE_CXX_FLAGS=$flags" "-DCMAKE_CXX_STANDARD_LIBRARIES=$fuzzer $sanitizer" \
+    >"$build/configure.log"
 echo "==> building"
 ninja -C "$build" Fuzz | tail -n 1
 export NX_WINE=$here/start.sh NX_FUZZ_LIBRARIES="$fuzzer $sanitizer"
@@ -46,7 +47,7 @@ fuzz()
 {
     local run=$build/run/$1
     mkdir -p "$run/corpus" "$run/found"
-    rm -rf "$run/app" "$run/prefix" "$run/scratch"
+    rm -rf "$run/app" "$run/last_bytes" "$run/prefix" "$run/scratch"
     cp -R "$root/app" "$run/app"
     "$root/platform/winelib/copy_prefix.sh" "$root/build/wineprefix" "$run/prefix"
     (cd "$run" && WINEPREFIX=$run/prefix "$root/platform/winelib/run_wine.sh" "$build/bin/Fuzz.exe" "$@" \
@@ -76,7 +77,9 @@ for target in "$@"; do
     echo "$target: ${runs:-?} runs, ${speed:-?} a second, ${edges:-?} edges, ${features:-?} features"
     if [ $code -ne 0 ] || [ -z "$runs" ]; then
         found=1
-        grep -E 'FOUND|ERROR|SUMMARY|runtime error|Test unit written' "$log" | sed 's/^/    /' || tail -n 5 "$log"
+        bytes=$build/run/$target/last_bytes
+        [ ! -e "$bytes" ] || cp "$bytes" "$build/run/$target/found/$(sha1sum "$bytes" | cut -c 1-12)"
+        grep -E 'FOUND|ERROR|SUMMARY|runtime error' "$log" | sed 's/^/    /' || tail -n 5 "$log"
     fi
 done
 exit $found

@@ -97,6 +97,12 @@ TEST(PictureClaim, rows_of_a_strip_that_the_picture_has_not_take_no_memory)
     EXPECT_LT(memory.Growth(), MostMemory);
 }
 
+TEST(PictureClaim, pixels_behind_the_end_of_a_bitmap_file_are_not_looked_for)
+{
+    // A decoder may end the process on it.
+    EXPECT_FALSE(Decoded(CorpusPicture("pixels_behind_the_end.bmp")));
+}
+
 TEST(PictureClaim, picture_files_in_a_ring_end)
 {
     const std::vector<std::uint8_t> bytes = CorpusPicture("directories_in_a_ring.tiff");
