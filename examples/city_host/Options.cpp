@@ -39,6 +39,18 @@ bool SetTourPart(const CString& value, Options& options)
     return !value.IsEmpty();
 }
 
+bool SetTourReferences(const CString& value, Options& options)
+{
+    options.tourReferences = value;
+    return !value.IsEmpty();
+}
+
+bool SetNewReferences(const CString& value, Options& options)
+{
+    options.remakeReferences = true;
+    return SetTourReferences(value, options);
+}
+
 bool SetPublication(const CString& value, Options& options)
 {
     options.publicationFolder = value;
@@ -117,6 +129,8 @@ struct Switch
 const Switch switches[] = {
     {L"--tour", SetTour, L"a folder"},
     {L"--tour-part", SetTourPart, L"chrome, bars, objects, documents or looks"},
+    {L"--tour-references", SetTourReferences, L"a folder"},
+    {L"--new-references", SetNewReferences, L"a folder"},
     {L"--publication", SetPublication, L"the folder of a publication"},
     {L"--size", SetSize, L"WIDTHxHEIGHT in pixels"},
     {L"--user", SetUser, L"the number of a kind of user, 0 for the full one"},

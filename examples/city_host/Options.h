@@ -13,6 +13,8 @@ struct Options
 {
     CString tourFolder;            ///< where the tour's pictures go; empty: a live window
     CString tourPart;              ///< the part of the tour that is made; empty: all of it
+    CString tourReferences;        ///< folder of the pictures that the tour's are compared with; empty: none
+    bool remakeReferences = false; ///< the tour's pictures become the references
     CString publicationFolder;     ///< the publication that is shown; empty: the application itself
     CSize size = CSize(1280, 800); ///< of the window, in pixels
     GUIUserType user = GUI_USER_FULL;

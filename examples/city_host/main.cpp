@@ -40,7 +40,7 @@ public:
 
     int Run() override
     {
-        return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_.tourFolder, options_.tourPart).Run();
+        return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_).Run();
     }
 
     int ExitInstance() override

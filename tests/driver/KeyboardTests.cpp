@@ -90,7 +90,6 @@ TEST_F(DriverKeyboard, what_fails_in_the_loop_of_a_menu_fails_after_it)
 
 TEST_F(DriverKeyboard, a_menu_that_does_not_open_is_told)
 {
-    driver_.SetPatience(std::chrono::milliseconds(200));
     Frame().EnablePopupMenu(false);
     EXPECT_THROW(driver_.RightClickMenu(CPoint(300, 300), 1, VK_ESCAPE), std::runtime_error);
     Frame().EnablePopupMenu(true);

@@ -53,7 +53,7 @@ void CityHost::CarryOutClicks()
     for (const CPoint point : std::exchange(clicks_, {}))
     {
         properties_->Pick(PickBuilding(city_, *viewer_->getCamera(), point));
-        tellPickAt_ = Clock::now() + std::chrono::milliseconds(GetDoubleClickTime());
+        tellPickAt_ = clock_.Now() + std::chrono::milliseconds(GetDoubleClickTime());
         NeedFrames(1);
     }
     if (std::exchange(doubleClicked_, false))
@@ -62,7 +62,7 @@ void CityHost::CarryOutClicks()
         tellPickAt_.reset();
         NeedFrames(1);
     }
-    if (tellPickAt_ && Clock::now() >= *tellPickAt_)
+    if (tellPickAt_ && clock_.Now() >= *tellPickAt_)
     {
         tellPickAt_.reset();
         TellPick();

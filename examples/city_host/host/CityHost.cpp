@@ -112,7 +112,9 @@ int CityHost::Run()
 
 bool CityHost::Step()
 {
+    clock_.Turn();
     Pump();
+    TickSteps();
     CarryOut();
     return Advance() && Draw();
 }
@@ -120,7 +122,7 @@ bool CityHost::Step()
 bool CityHost::IsBusy() const
 {
     return !window_.IsMinimised() &&
-           (moving_ || framesDue_ > 0 || toasts_->IsChanging() || tellPickAt_ || Clock::now() < barsMayMoveUntil_);
+           (moving_ || framesDue_ > 0 || toasts_->IsChanging() || tellPickAt_ || clock_.Now() < barsMayMoveUntil_);
 }
 
 void CityHost::Pump()
@@ -149,7 +151,7 @@ void CityHost::Pump()
 
 bool CityHost::Advance()
 {
-    const Clock::time_point now = Clock::now();
+    const TimePoint now = clock_.Now();
     const double seconds = std::min(std::chrono::duration<double>(now - lastAdvance_).count(), LongestStep);
     lastAdvance_ = now;
     const bool roamed = roam_.Advance(seconds);
@@ -293,7 +295,7 @@ bool CityHost::IsOnInterface(CPoint point) const
 void CityHost::OnInput()
 {
     NeedFrames(1);
-    barsMayMoveUntil_ = Clock::now() + SlideTime;
+    barsMayMoveUntil_ = clock_.Now() + SlideTime;
 }
 
 void CityHost::OnExpose()
@@ -315,8 +317,25 @@ void CityHost::OnKey(UINT virtualKey)
 
 void CityHost::OnTimer(UINT_PTR id)
 {
+    // By steps the ticks come with the turns of the loop.
+    if (!clock_.IsStepped())
+    {
+        SlideTick(id);
+    }
+}
+
+void CityHost::TickSteps()
+{
+    for (HostClock::Duration passed = HostWindow::SlideTick; passed <= clock_.Step(); passed += HostWindow::SlideTick)
+    {
+        SlideTick(HostWindow::SlideTimer);
+    }
+}
+
+void CityHost::SlideTick(UINT_PTR id)
+{
     Frame().OnTimer(id);
-    if (Clock::now() < barsMayMoveUntil_)
+    if (clock_.Now() < barsMayMoveUntil_)
     {
         NeedFrames(1);
     }

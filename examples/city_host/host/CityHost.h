@@ -17,6 +17,7 @@
 #include "Actions.h"
 #include "GuiMessage.h"
 #include "GuiSession.h"
+#include "HostClock.h"
 #include "InterfaceScale.h"
 #include "MenuActions.h"
 #include "PropertyView.h"
@@ -49,6 +50,7 @@ public:
 
     CWnd* MainWindow() { return &window_.Main(); }
     HostWindow& Window() { return window_; }
+    HostClock& Time() { return clock_; }
     osgViewer::Viewer& Viewer() { return *viewer_; }
     city::City& City() { return city_; }
     OrbitCamera& Camera() { return camera_; }
@@ -70,7 +72,7 @@ public:
     static CameraPose HomePose();
 
 private:
-    using Clock = std::chrono::steady_clock;
+    using TimePoint = HostClock::TimePoint;
 
     void OnGuiMessage(UINT code, LPARAM value) override;
     void OnMenuCommand(UINT id) override;
@@ -93,6 +95,9 @@ private:
     void ShowPublication();
     void OpenInterface();
     void Pump();
+    /// Ticks of the timer for the bars, when time goes by steps.
+    void TickSteps();
+    void SlideTick(UINT_PTR id);
     void CarryOut();
     void CarryOut(const GuiMessage& message);
     void CarryOut(const MenuCommand& command);
@@ -101,7 +106,7 @@ private:
     void FollowFrame();
     void ScaleFor(UINT density);
     /// Takes over what was changed in the skin's files.
-    void FollowSkin(Clock::time_point now);
+    void FollowSkin(TimePoint now);
     void AfterRestart();
     bool Advance();
     bool Draw();
@@ -115,8 +120,9 @@ private:
     bool closed_ = false;
     bool inFrame_ = false;
     int framesDue_ = 0;
-    Clock::time_point lastAdvance_ = Clock::now();
-    Clock::time_point barsMayMoveUntil_ = Clock::now();
+    HostClock clock_;
+    TimePoint lastAdvance_ = clock_.Now();
+    TimePoint barsMayMoveUntil_ = lastAdvance_;
     bool moving_ = false;
     std::vector<GuiMessage> messages_;
     std::vector<UINT> keys_;
@@ -124,7 +130,7 @@ private:
     std::vector<CPoint> clicks_;
     bool doubleClicked_ = false;
     /// When a picked building is told of, once no double click can come any more.
-    std::optional<Clock::time_point> tellPickAt_;
+    std::optional<TimePoint> tellPickAt_;
     CSize laidOutFor_; ///< size of the view that the panel was last refreshed for
 
     city::City city_;

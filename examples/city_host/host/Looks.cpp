@@ -63,7 +63,7 @@ CString CityHost::SwitchSkin()
     return skin_->Name();
 }
 
-void CityHost::FollowSkin(Clock::time_point now)
+void CityHost::FollowSkin(TimePoint now)
 {
     if (!gui_)
     {

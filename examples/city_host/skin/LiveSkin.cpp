@@ -63,7 +63,7 @@ CString LiveSkin::ConfiguredFolder()
     return ResourceFolder() + CString(_a2w(CParamConfig::getInstance()->getStringParam(SkinParameter)));
 }
 
-LiveSkin::LiveSkin(const CString& folder) : folder_(folder), nextLook_(std::chrono::steady_clock::now())
+LiveSkin::LiveSkin(const CString& folder) : folder_(folder)
 {
     const CString copy = CString(CopyFolder) + Name() + L"\\";
     if (CopySkin(folder_, ResourceFolder() + copy))

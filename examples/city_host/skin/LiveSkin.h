@@ -56,7 +56,7 @@ private:
     CString copy_;      ///< empty: none
     SkinFiles seen_;    ///< at the last look
     SkinFiles settled_; ///< as they were when they were taken, or found to be broken
-    std::chrono::steady_clock::time_point nextLook_;
+    std::chrono::steady_clock::time_point nextLook_; ///< the first one at once
 };
 
 } // namespace host

@@ -25,6 +25,8 @@ public:
     /// @param caption UTF-8
     /// @throws std::runtime_error when the picture is empty, the same as an earlier one, or cannot be written
     void Add(const std::string& id, const std::string& caption, const osg::Image& picture);
+    /// Without a backslash at the end.
+    const CString& Folder() const { return folder_; }
     /// Writes the two lists.
     /// @throws std::runtime_error when they cannot be written
     void Finish() const;

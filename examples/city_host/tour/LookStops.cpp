@@ -13,13 +13,11 @@ namespace
 {
 
 constexpr int EnvironmentTool = 3;
-constexpr int PropertyTool = 4;
 // Of the window buttons, in view pixels.
 constexpr int CloseFromRight = 28;
 constexpr int FullSceneFromRight = 116;
 constexpr POINT Building = {640, 330}; ///< in the home view
-constexpr POINT BareGround = {980, 620};
-constexpr UINT DenseDensity = 192; ///< dots per inch
+constexpr UINT DenseDensity = 192;     ///< dots per inch
 constexpr int DenseScale = 2;
 constexpr DWORD FollowTime = 900; ///< in which a saved file shows
 
@@ -79,7 +77,7 @@ void ChooseSecond(User& user)
     OpenList(user);
 }
 
-void OpenPanel(User& user)
+void OpenPanelAndList(User& user)
 {
     user.MoveTo(Centre(user));
     Key(user, 'H');
@@ -91,7 +89,7 @@ void OpenPanel(User& user)
     OpenList(user);
 }
 
-void SwitchLanguage(User& user)
+void SwitchLookLanguage(User& user)
 {
     user.WaitForNotes();
     user.MoveTo(Centre(user));
@@ -158,7 +156,7 @@ void MoveBack(User& user)
 
 void OpenPanelAndMove(User& user)
 {
-    OpenPanel(user);
+    OpenPanelAndList(user);
     MoveToDenseMonitor(user);
 }
 
@@ -174,8 +172,8 @@ std::vector<TourStop> LookStops()
         {"light-tools", "The light skin's tools, with a tooltip.", HoverEnvironment, nullptr},
         {"light-tools-pushed", "A tool of the light skin held down.", HoldEnvironment, ReleaseOutside},
         {"light-list", "The light skin's list, with the second entry chosen.", ChooseSecond, nullptr},
-        {"light-panel", "The light skin's property panel, with the data of a building.", OpenPanel, nullptr},
-        {"light-english", "The key L: the same in English.", SwitchLanguage, TakeFirstSkinBack},
+        {"light-panel", "The light skin's property panel, with the data of a building.", OpenPanelAndList, nullptr},
+        {"light-english", "The key L: the same in English.", SwitchLookLanguage, TakeFirstSkinBack},
         {"skin-edited", "Somebody has saved another picture into the skin's folder: it shows within a second.", SaveOtherPicture,
          RestorePicture},
         {"skin-broken", "A picture of the skin was saved half: the one before stays, and the note says which file it is.",

@@ -8,12 +8,10 @@ namespace host
 namespace
 {
 
-constexpr int PropertyTool = 4;
 constexpr int DataTool = 5;
 // Buildings in the home view, in view pixels at 1280 x 800.
 constexpr POINT FirstBuilding = {640, 330};
 constexpr POINT SecondBuilding = {550, 690};
-constexpr POINT BareGround = {980, 620};
 // In the view of the list's second entry.
 constexpr POINT NearBuilding = {530, 620};
 constexpr POINT SkyInNearView = {900, 90};

@@ -21,6 +21,9 @@ inline CPoint Tool(const User& user, int number)
     return CPoint(firstX + (number - 1) * distance, user.ViewSize().cy - fromBottom);
 }
 
+constexpr int PropertyTool = 4;
+/// Where nothing can be picked in the home view at 1280 x 800.
+constexpr POINT BareGround = {980, 620};
 constexpr int ListX = 74;
 /// The window buttons' middle.
 constexpr int WindowButtonY = 25;

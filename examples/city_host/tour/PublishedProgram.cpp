@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PublishedProgram.h"
 
-#include "ScreenGrab.h"
 #include "User.h"
+#include "support/driver/ScreenGrab.h"
 
 #include <cstdlib>
 #include <stdexcept>
@@ -97,7 +97,7 @@ osg::ref_ptr<osg::Image> PublishedProgram::WaitFor(bool startPage)
         {
             RECT area = {};
             GetWindowRect(window, &area);
-            const osg::ref_ptr<osg::Image> picture = GrabScreen(area);
+            const osg::ref_ptr<osg::Image> picture = driver::GrabScreen(area);
             const int low = picture->t() - Margin;
             // A window comes up black, and its first picture from the top on.
             if (!IsBlack(*picture, Margin, low) && IsGround(*picture, Margin, Margin) == startPage &&
@@ -106,7 +106,7 @@ osg::ref_ptr<osg::Image> PublishedProgram::WaitFor(bool startPage)
                 return picture;
             }
         }
-        user_.LetPass(PollMilliseconds);
+        user_.LetOthersWork(PollMilliseconds);
     }
     throw std::runtime_error(startPage ? "the publication shows no start page" : "the publication shows no scene");
 }
@@ -114,14 +114,14 @@ osg::ref_ptr<osg::Image> PublishedProgram::WaitFor(bool startPage)
 osg::ref_ptr<osg::Image> PublishedProgram::WaitForStartPage()
 {
     WaitFor(true);
-    user_.LetPass(2 * PollMilliseconds);
+    user_.LetOthersWork(2 * PollMilliseconds);
     return WaitFor(true);
 }
 
 osg::ref_ptr<osg::Image> PublishedProgram::WaitForScene()
 {
     WaitFor(false);
-    user_.LetPass(SettleMilliseconds);
+    user_.LetOthersWork(SettleMilliseconds);
     return WaitFor(false);
 }
 

@@ -130,7 +130,7 @@ void ResizeAndTurn(User& user)
 {
     Resize<1280, 800>(user);
     user.Drag(Centre(user), CPoint(Centre(user).x + 240, Centre(user).y - 20));
-    user.Drag(Centre(user), CPoint(Centre(user).x, Centre(user).y + 120), true);
+    user.Drag(Centre(user), CPoint(Centre(user).x, Centre(user).y + 120), driver::Button::Right);
 }
 
 /// The title bar, the scene, and the window's sizes.
@@ -162,7 +162,7 @@ std::vector<TourStop> ChromeStops()
     const TourStop sizes[] = {
         {"size-640x480", "The window resized to 640 x 480.", Resize<640, 480>, nullptr},
         {"size-1920x1080", "The window resized to 1920 x 1080.", Resize<1920, 1080>, nullptr},
-        {"size-1280x800", "The window resized to 1280 x 800, and the scene turned and pushed along.", ResizeAndTurn, nullptr},
+        {"size-1280x800", "The window resized to 1280 x 800, and the scene turned and pushed along.", ResizeAndTurn, FlyHome},
     };
     stops.insert(stops.end(), std::begin(sizes), std::end(sizes));
     return stops;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Tour.h"
 
+#include "../Options.h"
 #include "../host/CityHost.h"
 #include "Album.h"
-#include "FrameGrab.h"
-#include "ScreenGrab.h"
+#include "StopReferences.h"
 #include "Stops.h"
 #include "User.h"
 
@@ -17,36 +17,12 @@ namespace host
 namespace
 {
 
-void TakePicture(CityHost& host, Album& album, const TourStop& stop)
+void Visit(Album& album, StopReferences& references, User& user, const TourStop& stop)
 {
-    const FrameGrab grab(host.Viewer());
-    // Asks for one more frame of the same picture.
-    InvalidateRect(host.Window().View(), nullptr, FALSE);
-    for (int i = 0; i < 100 && grab.Picture().s() == 0; ++i)
-    {
-        host.Step();
-    }
-    album.Add(stop.id, stop.caption, grab.Picture());
-}
-
-void TakeScreenPicture(CityHost& host, Album& album, const TourStop& stop)
-{
-    RECT area = {};
-    GetWindowRect(host.Window().Main(), &area);
-    album.Add(stop.id, stop.caption, *GrabScreen(area));
-}
-
-void Visit(CityHost& host, Album& album, User& user, const TourStop& stop)
-{
-    bool taken = false;
+    osg::ref_ptr<osg::Image> picture;
     if (stop.screen)
     {
-        user.WhileMenuIsOpen(
-            [&]
-            {
-                TakeScreenPicture(host, album, stop);
-                taken = true;
-            });
+        user.WhileMenuIsOpen([&] { picture = user.TakeScreenPicture(); });
     }
     if (stop.act)
     {
@@ -59,16 +35,14 @@ void Visit(CityHost& host, Album& album, User& user, const TourStop& stop)
     }
     if (stop.picture)
     {
-        album.Add(stop.id, stop.caption, *stop.picture(user));
+        picture = stop.picture(user);
     }
-    else if (!stop.screen)
+    else if (!picture)
     {
-        TakePicture(host, album, stop);
+        picture = stop.screen ? user.TakeScreenPicture() : user.TakePicture();
     }
-    else if (!taken)
-    {
-        TakeScreenPicture(host, album, stop);
-    }
+    album.Add(stop.id, stop.caption, *picture);
+    references.Take(stop.id, *picture);
     if (stop.leave)
     {
         stop.leave(user);
@@ -82,17 +56,18 @@ int Tour::Run()
     const char* place = "the start";
     try
     {
-        Album album(folder_);
+        Album album(options_.tourFolder);
+        StopReferences references(options_.tourReferences, options_.remakeReferences, album.Folder());
         User user(host_);
         user.Wait();
         int number = 0;
-        const std::vector<TourStop> stops = TourStops(part_);
+        const std::vector<TourStop> stops = TourStops(options_.tourPart);
         for (const TourStop& stop : stops)
         {
             place = stop.id;
             std::printf("tour %2d/%d  %s\n", ++number, static_cast<int>(stops.size()), stop.id);
             std::fflush(stdout);
-            Visit(host_, album, user, stop);
+            Visit(album, references, user, stop);
         }
         album.Finish();
         place = "the end";
@@ -102,7 +77,7 @@ int Tour::Run()
         {
             throw std::runtime_error("the close button did not close the host");
         }
-        return 0;
+        return references.Report() ? 0 : 1;
     }
     catch (const std::exception& failure)
     {

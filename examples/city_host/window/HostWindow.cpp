@@ -10,9 +10,6 @@ namespace
 
 const wchar_t* const MainClass = L"CityHostMain";
 const wchar_t* const ViewClass = L"CityHostView";
-/// Ticks for the sliding of the interface's bars.
-constexpr UINT_PTR SlideTimer = 2022;
-constexpr UINT SlideTimerMilliseconds = 30;
 
 } // namespace
 
@@ -61,7 +58,7 @@ HostWindow::HostWindow(CSize size, HostWindowEvents& events) : events_(events)
     {
         throw std::runtime_error("the view's window cannot be made");
     }
-    SetTimer(window, SlideTimer, SlideTimerMilliseconds, nullptr);
+    SetTimer(window, SlideTimer, static_cast<UINT>(SlideTick.count()), nullptr);
 }
 
 HostWindow::~HostWindow()

@@ -5,6 +5,8 @@
 
 #include <afxwin.h>
 
+#include <chrono>
+
 namespace host
 {
 
@@ -41,6 +43,10 @@ public:
 class HostWindow
 {
 public:
+    /// Ticks for the sliding of the interface's bars.
+    static constexpr UINT_PTR SlideTimer = 2022;
+    static constexpr std::chrono::milliseconds SlideTick{30};
+
     /// @param size of the window, in pixels of a monitor of 96 dots per inch; on others it is as large to the eye
     /// @param events outlives the window
     HostWindow(CSize size, HostWindowEvents& events);

@@ -71,13 +71,15 @@ void Driver::MoveTo(const Place& place)
 {
     const CPoint from = mouse_;
     mouse_ = place.In(program_);
-    for (int i = 1; i <= MoveSteps; ++i)
+    for (int i = 1; i < MoveSteps; ++i)
     {
         const CPoint step = Between(from, mouse_, i, MoveSteps);
         // A mouse reports several moves between two frames.
         program_.Post(WM_MOUSEMOVE, held_, MAKELPARAM(step.x, step.y));
     }
     Turn();
+    // What has come up on the way is seen by now.
+    Send(WM_MOUSEMOVE, held_, mouse_);
 }
 
 void Driver::WaitOutDoubleClick(CPoint point)

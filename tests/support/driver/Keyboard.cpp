@@ -2,8 +2,6 @@
 // What the driver does by keys: to the view, to a dialog, and to a menu, which runs a loop of its own meanwhile.
 #include "Driver.h"
 
-#include <algorithm>
-#include <cstdint>
 #include <exception>
 #include <stdexcept>
 
@@ -30,8 +28,10 @@ struct MenuScript
 };
 
 MenuScript* runningScript = nullptr;
-constexpr UINT TickMilliseconds = 150;
-constexpr int TicksWithoutMenu = 20;
+constexpr UINT TickMilliseconds = 50;
+constexpr int MostTicks = 40; ///< of a menu that does not end by its key
+/// In which a menu opens that was asked for: its loop runs within one of them.
+constexpr int TurnsForAMenu = 20;
 
 bool IsMenuOpen()
 {
@@ -105,7 +105,7 @@ void CALLBACK OnMenuTick(HWND, UINT, UINT_PTR, DWORD)
         }
         PostKey(script.keysTo, script.end);
         break;
-    case TicksWithoutMenu:
+    case MostTicks:
         EndMenu();
         break;
     default:
@@ -132,11 +132,12 @@ void Driver::RightClickMenu(const Place& place, int downs, UINT end)
     MenuScript script(program_.MainWindow(), downs, end, whileMenuIsOpen_);
     runningScript = &script;
     const UINT_PTR timer = SetTimer(nullptr, 0, TickMilliseconds, OnMenuTick);
-    const auto mostMilliseconds = std::min<std::int64_t>(TickMilliseconds * TicksWithoutMenu, patience_.count());
-    const DWORD start = GetTickCount();
     Press(point, Button::Right);
+    // No hand is quite still, and some menus open by that.
+    Send(WM_MOUSEMOVE, held_, CPoint(point.x + 1, point.y));
+    Send(WM_MOUSEMOVE, held_, point);
     Release(point, Button::Right);
-    while (!script.opened && GetTickCount() - start < mostMilliseconds)
+    for (int i = 0; i < TurnsForAMenu && !script.opened; ++i)
     {
         Turn();
     }
