@@ -4,6 +4,7 @@
 # X display of its own where there is none.
 #   run_wine.sh PROGRAM.exe [ARGUMENTS...]
 #   NX_CODE_PAGE_LOCALE  the locale whose ANSI code page Wine takes (zh_CN.UTF-8: 936)
+#   NX_WINE              what starts it (wine); run_sanitized.sh is one such
 #   NX_SCREEN            size of the display that is started where there is none (1920x1200x24)
 set -euo pipefail
 program=$1
@@ -35,4 +36,4 @@ fi
 program=$folder/$(basename "$program")
 [ ! -e "$program.so" ] || program=$program.so
 # Numbers stay in the C locale, which CEGUI insists on.
-exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" wine "$program" "$@"
+exec env -u LC_ALL LANG=C LOCPATH="$locales" LC_CTYPE="$locale" "${NX_WINE:-wine}" "$program" "$@"
