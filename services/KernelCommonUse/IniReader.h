@@ -15,8 +15,8 @@ struct NoCaseLess
 // ';' or '#' is a comment; of equal keys the first holds; keys before the first section belong to the section without a name.
 //
 // A malformed line is skipped with one log line that names the file and the line, and the rest holds: a line without '=', with
-// an empty key, with a section bracket that is not closed, with a null in it, or with bytes that its encoding does not know. Beyond
-// the hundredth such line of a file one log line says how many more there are.
+// an empty key, with a section bracket that is not closed, with a null in it, or with bytes that its encoding does not know.
+// Beyond the hundredth such line of a file one log line says how many more there are.
 class IniReader
 {
 public:
