@@ -12,7 +12,8 @@ namespace
 const wchar_t* const Reports = L"reports";
 /// Drawn from the same files by the same program: room for another rounding of blended colours.
 constexpr driver::Tolerance SamePixels = {1, 2.0, 0.1};
-constexpr driver::Tolerance SameSquares = {4, 4.0, 0.25};
+/// What the host's tour allows its pictures.
+constexpr driver::Tolerance SameSquares = {4, 8.0, 0.5};
 
 bool IsThere(const CString& file)
 {

@@ -39,6 +39,7 @@ void GoHome(User& user)
 void HoverTooltip(User& user)
 {
     GoHome(user);
+    user.Wheel(Centre(user), 3);
     HoverTool(user, DataTool);
 }
 
@@ -180,7 +181,7 @@ void LeaveList(User& user)
 std::vector<TourStop> ObjectStops()
 {
     return {
-        {"tooltip-tool", "The tooltip of the data-management tool.", HoverTooltip, nullptr},
+        {"tooltip-tool", "The tooltip of the data-management tool, nearer to the city.", HoverTooltip, nullptr},
         {"picked", "A building was clicked: it is marked in the scene, and a note says what it is.", PickFirst, nullptr},
         {"panel", "The display-properties tool opens the panel with the building's data.", OpenPanel, nullptr},
         {"panel-tooltip", "The mouse over a name that is longer than its column: the tooltip shows the whole of it.",

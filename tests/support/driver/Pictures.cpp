@@ -16,7 +16,7 @@ namespace
 {
 
 /// Small files, in which letters can still be read.
-const char* const CoderOptions = "JPEG_QUALITY 85";
+const char* const CoderOptions = "JPEG_QUALITY 80";
 
 osgDB::ReaderWriter& CoderOf(const char* format)
 {
