@@ -18,6 +18,8 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 
+#include <utility>
+
 namespace
 {
 constexpr int TextLeft = 50;                // bar pixels
@@ -76,7 +78,7 @@ void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CStri
     sceneTitle_ = title;
     sceneTitleColor_ = color;
     sceneTitleFontHeight_ = fontHeight;
-    sceneTitleFontStyle_ = fontStyle;
+    sceneTitleFontStyle_ = std::move(fontStyle);
     CeGuiToolBar* bar = FindBar(FrameNames::TitleBar);
     if (!bar || titleTextItem_ < 0)
     {

@@ -56,6 +56,10 @@ CeGuiDrawable::~CeGuiDrawable() = default;
 
 CeGuiDrawable& CeGuiDrawable::operator=(const CeGuiDrawable& other)
 {
+    if (this == &other)
+    {
+        return *this;
+    }
     contextId_ = other.contextId_;
     reserved_ = other.reserved_;
     renderer_ = other.renderer_;
