@@ -2,6 +2,7 @@
 // The interface measured beside other ways to the same picture, all in one run.
 //   NxBench [--plain] [--only NAME] OUT_FOLDER
 #include "FrameRows.h"
+#include "OtherRows.h"
 #include "Report.h"
 #include "Stage.h"
 #include "native/Contestant.h"
@@ -62,6 +63,30 @@ int main(int argc, char** argv)
         if (wanted("submit_growth"))
         {
             add({SubmitGrowthRow(stage)});
+        }
+        if (wanted("mouse_move"))
+        {
+            add({MouseMoveRow(stage)});
+        }
+        if (wanted("resize"))
+        {
+            add(ResizeRows(stage));
+        }
+        if (wanted("thumbnail_first"))
+        {
+            add({ThumbnailRow(stage)});
+        }
+        if (wanted("panel_growth"))
+        {
+            add({PanelRow(stage)});
+        }
+        if (wanted("title"))
+        {
+            add({TitleRow(stage)});
+        }
+        if (wanted("startup"))
+        {
+            add(StartRows(stage));
         }
         std::ofstream(out + "/bench.json") << Json(rows);
         std::cout << "\n" << Table(rows);

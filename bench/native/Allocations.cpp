@@ -19,6 +19,7 @@ namespace bench
 {
 namespace
 {
+/// The module's file name, and the function's where it is known.
 std::string ModuleOf(const void* place)
 {
     Dl_info info = {};
@@ -27,11 +28,12 @@ std::string ModuleOf(const void* place)
         return "unknown";
     }
     const std::string path = info.dli_fname;
-    return path.substr(path.rfind('/') + 1);
+    return path.substr(path.rfind('/') + 1) + (info.dli_sname ? std::string(" ") + info.dli_sname : std::string());
 }
 
-bool IsDriver(const std::string& module)
+bool IsDriver(const std::string& place)
 {
+    const std::string module = place.substr(0, place.find(' '));
     for (const char* part : {"_dri", "libGL", "libgallium", "libLLVM", "libglapi", "libX11", "libxcb", "libdrm"})
     {
         if (module.find(part) != std::string::npos)

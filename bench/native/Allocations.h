@@ -15,7 +15,7 @@ public:
     AllocationCount();
     ~AllocationCount();
     void Stop();
-    /// By the file name of the module that asked.
+    /// By the file name of the module that asked, and its function.
     const std::map<std::string, int>& ByModule() const { return byModule_; }
     /// All but those of the OpenGL driver, which a caller of OpenGL cannot help.
     int BesidesDriver() const;
