@@ -52,7 +52,11 @@ DWORD HostProgram::Now()
     return static_cast<DWORD>(std::chrono::duration_cast<std::chrono::milliseconds>(time).count());
 }
 
-User::User(CityHost& host) : HostProgram(host), Driver(static_cast<Program&>(*this)) {}
+User::User(CityHost& host) : HostProgram(host), Driver(static_cast<Program&>(*this))
+{
+    // Where a resized window goes, too: dialogs come up at the same place over it then in every part of the tour.
+    SetWindowPos(MainWindow(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+}
 
 void User::MoveToMonitor(UINT density, CSize size)
 {
