@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How the editing of a control button ends, and for whom it does not begin.
 #include "DragTest.h"
+#include "support/RefreshesCounted.h"
 
 TEST_F(DragTest, the_release_ends_editing_and_forgets_the_name)
 {
@@ -12,6 +13,16 @@ TEST_F(DragTest, the_release_ends_editing_and_forgets_the_name)
     const float x = X();
     DragBy(60);
     EXPECT_EQ(X(), x);
+}
+
+TEST_F(DragTest, the_release_asks_for_a_refresh_once)
+{
+    const RefreshesCounted counted;
+    Press();
+    DragBy(20);
+    EXPECT_EQ(counted.count, 0);
+    ReleaseAt(20);
+    EXPECT_EQ(counted.count, 1);
 }
 
 TEST_F(DragTest, a_release_without_a_move_ends_editing_and_keeps_the_name)

@@ -214,6 +214,14 @@ TEST_F(SelectionTest, a_click_without_a_window_is_left_unhandled)
     EXPECT_TRUE(Host().TakeMessages().empty());
 }
 
+TEST_F(SelectionTest, a_click_that_chooses_is_handled)
+{
+    CEGUI::WindowEventArgs args(GuiHost::Find("a_P"));
+    GuiHost::Find("a_P")->fireEvent(CEGUI::PushButton::EventClicked, args);
+    EXPECT_EQ(args.handled, 1u);
+    ExpectReported(Host().TakeMessages(), 0);
+}
+
 TEST_F(SelectionTest, a_click_after_the_record_was_taken_away_chooses_nothing)
 {
     Frame().GetCtrlBtnInfo().erase(Frame().GetCtrlBtnInfo().begin());
