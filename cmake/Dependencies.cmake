@@ -28,6 +28,11 @@ add_library(nx_scene INTERFACE)
 target_include_directories(nx_scene SYSTEM INTERFACE ${CEGUI_INCLUDE_DIR} ${OPENSCENEGRAPH_INCLUDE_DIRS})
 target_link_libraries(nx_scene INTERFACE ${OPENSCENEGRAPH_LIBRARIES} ${CEGUI_BASE_LIBRARY} ${CEGUI_OPENGL_LIBRARY}
     ${NX_GL_LIBRARY})
+if(NX_WINELIB)
+    # Inline functions of OpenSceneGraph call OpenGL through pointers. Their type takes Windows' way of passing arguments from this
+    # name, while the functions behind them are the native libGL's.
+    target_compile_definitions(nx_scene INTERFACE GL_APIENTRY=)
+endif()
 if(NOT MSVC)
     # CEGUI's headers say dllimport, which means nothing here.
     target_compile_options(nx_scene INTERFACE -Wno-attributes)
