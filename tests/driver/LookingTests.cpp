@@ -2,6 +2,7 @@
 // The driver waits for the picture, takes it, and drags the window to other sizes.
 #include "support/GuiDriver.h"
 #include "support/HostedFrame.h"
+#include "support/driver/Compare.h"
 
 #include <osg/AnimationPath>
 #include <osg/Geode>
@@ -87,6 +88,25 @@ TEST_F(DriverLooking, the_screens_picture_shows_windows_over_the_view)
     EXPECT_EQ(PixelOf(*view, 230, 220), Background()) << "it is no part of the view";
     EXPECT_LT(Distance(PixelOf(*screen, 230, 220), GetSysColor(COLOR_3DDKSHADOW) == 0 ? Pixel{0, 0, 0} : Pixel{64, 64, 64}), 80);
     EXPECT_EQ(PixelOf(*screen, 500, 400), Background()) << "beside it the view is seen";
+}
+
+TEST_F(DriverLooking, no_caret_blinks_in_the_screens_picture)
+{
+    driver_.DoubleClick("TavTilteText");
+    driver_.SelectAllInFocus();
+    driver_.Type(L"text");
+    driver_.Wait();
+    const osg::ref_ptr<osg::Image> first = driver_.TakeScreenPicture();
+    const DWORD part = GetCaretBlinkTime() * 2 / 3;
+    for (int i = 0; i < 4; ++i)
+    {
+        // Once round, in steps that come to both of its states.
+        Sleep(part);
+        Host().Frames(1);
+        EXPECT_EQ(driver::Compare(*driver_.TakeScreenPicture(), *first, 1).most, 0.0) << i;
+    }
+    driver_.KeyToFocus(VK_ESCAPE);
+    driver_.TakeReceived();
 }
 
 TEST_F(DriverLooking, waits_until_nothing_moves)

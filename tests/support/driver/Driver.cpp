@@ -249,6 +249,11 @@ osg::ref_ptr<osg::Image> Driver::TakeScreenPicture()
     RECT area = {};
     GetWindowRect(program_.MainWindow(), &area);
     const BOOL hidden = HideCaret(nullptr);
+    if (hidden)
+    {
+        // The system brings what has changed to the screen when it finds no more messages.
+        Turn();
+    }
     osg::ref_ptr<osg::Image> picture = GrabScreen(area);
     if (hidden)
     {
