@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// GLRenderer.h brings GLEW, which has to come before any other OpenGL header.
-#include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
+// Brings GLEW, which has to come before any other OpenGL header.
+#include "GuiRenderer.h"
 
 #include <NxOsgCeGui/CeGuiDrawable.h>
 
@@ -19,6 +19,7 @@
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
+#include <CEGUI/GlobalEventSet.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/SchemeManager.h>
@@ -36,6 +37,24 @@ const char* const SkinGroup = "skindir";
 const char* const SchemeFile = "TavLookSkin.scheme";
 const char* const LogFile = "CEGUI.log";
 const char* const SkinParameter = "CEGUI_SkinDir";
+
+/// Tells the events of all objects of a class to those who ask for them. CEGUI's own puts together a new text for every event to
+/// look for such, which takes memory at each draw.
+class AskedEvents : public CEGUI::GlobalEventSet
+{
+public:
+    void fireEvent(const CEGUI::String& name, CEGUI::EventArgs& args, const CEGUI::String& eventNamespace) override
+    {
+        name_.assign(eventNamespace).append("/").append(name);
+        if (getEventObject(name_))
+        {
+            GlobalEventSet::fireEvent(name, args, eventNamespace);
+        }
+    }
+
+private:
+    CEGUI::String name_; ///< keeps its memory from one event to the next
+};
 
 bool ForgetDestroyedWindow(const CEGUI::EventArgs& args)
 {
@@ -122,12 +141,15 @@ void CeGuiDrawable::SetupCeGui()
 {
     // CEGUI writes every exception to its log; on standard error a host's user would see it twice.
     CEGUI::Exception::setStdErrEnabled(false);
-    renderer_ = &CEGUI::OpenGLRenderer::create();
+    renderer_ = &GuiRenderer::Create();
     // OSG leaves depth test, culling, texture environment and the like as the scene wants them.
     renderer_->enableExtraStateSettings(true);
     resourceProvider_ = std::make_shared<SkinResourceProvider>();
     imageCodec_ = std::make_shared<GuiImageCodec>();
     system_ = &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", LogFile);
+    // CEGUI's end takes away whichever there is.
+    delete CEGUI::GlobalEventSet::getSingletonPtr();
+    new AskedEvents;
     TakeServiceLog();
     CEGUI::WindowManager::getSingleton().subscribeEvent(CEGUI::WindowManager::EventWindowDestroyed,
                                                         CEGUI::SubscriberSlot(&ForgetDestroyedWindow));

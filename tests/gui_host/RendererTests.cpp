@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// What is drawn with less work is the same picture.
+#include "support/HostedFrame.h"
+#include "widgets/Pictures.h"
+
+#include <widgets/FileImageset.h>
+#include <widgets/WindowNames.h>
+
+#include <CEGUI/GUIContext.h>
+#include <CEGUI/GlobalEventSet.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+
+namespace
+{
+constexpr std::uint32_t Red = 0xFFFF0000;
+constexpr std::uint32_t Blue = 0xFF0000FF;
+constexpr int Side = 8;
+const wchar_t* const File = L"RendererTest.bmp";
+
+class Renderer : public HostedFrame
+{
+protected:
+    void SetUp() override
+    {
+        HostedFrame::SetUp();
+        MakeCurrent();
+        Argb picture = Solid(Side, Side, Red);
+        for (int i = 0; i < Side * Side; ++i)
+        {
+            if (i % Side >= Side / 2)
+            {
+                picture.pixels[static_cast<std::size_t>(i)] = Blue;
+            }
+        }
+        ASSERT_TRUE(WriteBytes(SkinDir() + File, Bmp32(picture)));
+        image_ = &FileImagesets::Create(File);
+    }
+
+    void TearDown() override
+    {
+        Rebuild();
+        DeleteFileW(SkinDir() + File);
+        HostedFrame::TearDown();
+    }
+
+    /// The picture, red on the left and blue on the right, in a window at these pixels of its parent.
+    CEGUI::Window& Show(CEGUI::Window& parent, const char* name, float x, float y, float size)
+    {
+        CEGUI::Window& window = *WindowNames::Create("TavLook/StaticImage", name);
+        window.setPosition(CEGUI::UVector2(CEGUI::UDim(0, x), CEGUI::UDim(0, y)));
+        window.setSize(CEGUI::USize(CEGUI::UDim(0, size), CEGUI::UDim(0, size)));
+        FileImagesets::Apply(window, "Image", *image_);
+        WindowNames::AddChild(parent, window);
+        return window;
+    }
+
+    static CEGUI::Window& Root() { return *CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow(); }
+
+    CEGUI::Image* image_ = nullptr;
+};
+
+bool IsRed(Pixel seen)
+{
+    return Distance(seen, {255, 0, 0}) <= 2;
+}
+
+bool IsBlue(Pixel seen)
+{
+    return Distance(seen, {0, 0, 255}) <= 2;
+}
+} // namespace
+
+TEST_F(Renderer, a_picture_shown_as_it_is_and_enlarged_is_sharp_in_one_place_and_smooth_in_the_other)
+{
+    Show(Root(), "large before", 300, 200, 80);
+    Show(Root(), "as it is", 400, 200, Side);
+    Show(Root(), "large after", 500, 200, 80);
+    for (int frame = 0; frame < 3; ++frame)
+    {
+        const Screenshot shot = Host().Shoot();
+        EXPECT_TRUE(IsRed(shot.At(403, 204)));
+        EXPECT_TRUE(IsBlue(shot.At(404, 204)));
+        for (const int middle : {340, 540})
+        {
+            EXPECT_GT(shot.At(middle, 240).red, 60);
+            EXPECT_GT(shot.At(middle, 240).blue, 60);
+            EXPECT_TRUE(IsRed(shot.At(middle - 30, 240)));
+        }
+    }
+}
+
+TEST_F(Renderer, a_picture_that_is_made_larger_becomes_smooth)
+{
+    CEGUI::Window& window = Show(Root(), "growing", 300, 200, Side);
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(304, 204)));
+    window.setSize(CEGUI::USize(CEGUI::UDim(0, 80), CEGUI::UDim(0, 80)));
+    const Pixel middle = Host().Shoot().At(340, 240);
+    EXPECT_GT(middle.red, 60);
+    EXPECT_GT(middle.blue, 60);
+}
+
+TEST_F(Renderer, a_window_outside_its_parent_is_seen_when_it_comes_in_and_not_when_it_has_left)
+{
+    CEGUI::Window& parent = Show(Root(), "parent", 300, 200, 40);
+    CEGUI::Window& child = Show(parent, "child", 100, 10, Side);
+    EXPECT_EQ(Host().Shoot().At(401, 214), Background());
+    const Pixel alone = Host().Shoot().At(327, 214);
+    EXPECT_TRUE(IsBlue(alone));
+    child.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 26), CEGUI::UDim(0, 10)));
+    EXPECT_TRUE(IsRed(Host().Shoot().At(327, 214)));
+    child.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 36), CEGUI::UDim(0, 10)));
+    EXPECT_TRUE(IsRed(Host().Shoot().At(338, 214))) << "half of it lies inside";
+    EXPECT_EQ(Host().Shoot().At(342, 214), Background());
+    child.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 100), CEGUI::UDim(0, 10)));
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(327, 214)));
+    // Out of sight while its parent moves to it.
+    parent.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 300), CEGUI::UDim(0, 300)));
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(327, 314)));
+}
+
+TEST_F(Renderer, events_of_all_windows_reach_who_asks_for_them)
+{
+    int shown = 0;
+    const auto count = [&](const CEGUI::EventArgs&)
+    {
+        ++shown;
+        return true;
+    };
+    CEGUI::Event::Connection connection =
+        CEGUI::GlobalEventSet::getSingleton().subscribeEvent("Window/Shown", CEGUI::SubscriberSlot(count));
+    CEGUI::Window& window = Show(Root(), "one", 300, 200, Side);
+    window.hide();
+    EXPECT_EQ(shown, 0);
+    window.show();
+    EXPECT_EQ(shown, 1);
+    connection->disconnect();
+    window.hide();
+    window.show();
+    EXPECT_EQ(shown, 1);
+}
