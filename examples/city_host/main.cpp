@@ -38,10 +38,7 @@ public:
         return TRUE;
     }
 
-    int Run() override
-    {
-        return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_).Run();
-    }
+    int Run() override { return options_.tourFolder.IsEmpty() ? host_->Run() : host::Tour(*host_, options_).Run(); }
 
     int ExitInstance() override
     {

@@ -53,9 +53,9 @@ private:
     void Take(const CString& file, Change& change);
 
     CString folder_;
-    CString copy_;      ///< empty: none
-    SkinFiles seen_;    ///< at the last look
-    SkinFiles settled_; ///< as they were when they were taken, or found to be broken
+    CString copy_;                                   ///< empty: none
+    SkinFiles seen_;                                 ///< at the last look
+    SkinFiles settled_;                              ///< as they were when they were taken, or found to be broken
     std::chrono::steady_clock::time_point nextLook_; ///< the first one at once
 };
 
