@@ -35,6 +35,6 @@ case " $* " in
 *" --only "*) ;;
 *)
     cp "$root/out/bench/bench.json" "$root/out/bench.json"
-    python3 "$root/bench/performance.py" "$root/out/bench.json" >"$root/docs/performance.md"
+    python3 "$root/bench/performance.py" "$root/out/bench.json" "$(cat "$root/out/bench/renderer.txt")" >"$root/docs/performance.md"
     ;;
 esac

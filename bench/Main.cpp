@@ -49,6 +49,7 @@ int main(int argc, char** argv)
         Stage stage(withCity);
         stage.Host().Start(GUI_USER_FULL);
         std::cout << "OpenGL: " << bench::RendererName() << ", " << bench::RendererVersion() << "\n";
+        std::ofstream(out + "/renderer.txt") << bench::RendererName() << ", OpenGL " << bench::RendererVersion() << "\n";
         std::vector<Row> rows;
         const auto wanted = [&](const char* group) { return only.empty() || only == group; };
         const auto add = [&](const std::vector<Row>& more)

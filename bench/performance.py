@@ -49,6 +49,19 @@ def growth(rows):
             yield f"| {row['name']} | " + " | ".join(number(series[str(c)]) if str(c) in series else "" for c in counts) + " |"
 
 
+def misses(rows, notes):
+    """What is known of the rows that do not hold; the notes are "name: text", one a line."""
+    failing = [row for row in rows if not row["holds"]]
+    if not failing:
+        return
+    known = dict(line.split(": ", 1) for line in notes.splitlines() if ": " in line)
+    yield ""
+    yield "## Where the time of the others goes"
+    yield ""
+    for row in failing:
+        yield f"- {row['name']} ({row['ratio']:.2f} in place of {row['limit']:g}): {known.get(row['name'], 'not looked into yet')}"
+
+
 def details(rows):
     yield ""
     yield "## Beside the medians"
@@ -71,7 +84,9 @@ def main():
     print(f"Measured on {datetime.date.today()}: {cpu()}, {os.cpu_count()} cores. {renderer}".rstrip())
     print(f"{sum(row['holds'] for row in rows)} of {len(rows)} rows hold.")
     print()
-    for part in (table(rows), growth(rows), details(rows)):
+    with open(os.path.join(here, "performance_notes.txt"), encoding="utf-8") as file:
+        notes = file.read()
+    for part in (table(rows), misses(rows, notes), growth(rows), details(rows)):
         for line in part:
             print(line)
 
