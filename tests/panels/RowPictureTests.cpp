@@ -2,6 +2,8 @@
 // The picture of the property list: its height, its row backgrounds, and names and values at their places.
 #include "PanelTest.h"
 
+#include <widgets/TextMeasurer.h>
+
 using RowPictureTest = PanelTest;
 
 TEST_F(RowPictureTest, without_rows_all_is_row_background)
@@ -53,6 +55,39 @@ TEST_F(RowPictureTest, texts_wider_than_their_columns_are_shortened)
     }
     EXPECT_EQ(fitting, 1) << "one way of shortening, and with dots";
     EXPECT_FALSE(SamePixels(list, 0, DrawnRow(longText, longText), 0, RowHeight));
+}
+
+TEST_F(RowPictureTest, names_have_80_pixels_and_values_110)
+{
+    const TextMeasurer measurer(L"Noto Sans CJK SC", 12, gp::TextRenderingHintClearTypeGridFit);
+    const auto textOfWidth = [&](float above, float upTo)
+    {
+        for (int wide = 0; wide < 12; ++wide)
+        {
+            CString text = Repeated(L"W", wide);
+            for (int narrow = 0; measurer.Box(text).Width <= upTo; ++narrow)
+            {
+                if (measurer.Box(text).Width > above)
+                {
+                    return text;
+                }
+                text += narrow % 2 ? L"i" : L"t";
+            }
+        }
+        return CString();
+    };
+    for (const auto& [name, value] : {std::pair(80.0f, 110.0f), std::pair(79.0f, 109.0f)})
+    {
+        const CString longName = textOfWidth(name, name + 1);
+        const CString longValue = textOfWidth(value, value + 1);
+        ASSERT_FALSE(longName.IsEmpty() || longValue.IsEmpty());
+        Open({{longName, L""}, {L"", longValue}});
+        const PictureFile list = ReadPictureFile(ListFile());
+        const bool fits = name < 80;
+        EXPECT_EQ(bool(SamePixels(list, 0, DrawnRow(longName, L""), 0, RowHeight)), fits) << Utf8(longName);
+        EXPECT_EQ(bool(SamePixels(list, RowHeight, DrawnRow(L"", longValue), 0, RowHeight)), fits) << Utf8(longValue);
+        Frame().OpenPropertyDlg(nullptr, false);
+    }
 }
 
 TEST_F(RowPictureTest, rows_make_the_picture_taller_than_its_place)
