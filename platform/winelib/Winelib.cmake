@@ -4,7 +4,6 @@
 # never runs), and a link X.dll beside it under which Wine finds it.
 
 set(NX_WINELIB_DIR ${CMAKE_CURRENT_LIST_DIR})
-include(${CMAKE_CURRENT_LIST_DIR}/Sanitize.cmake)
 
 # nx_add_dll(NAME SOURCES...): a module with the plain C export NAMEVersion().
 function(nx_add_dll name)
