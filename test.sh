@@ -4,8 +4,14 @@
 #   test.sh [CTEST OPTIONS...]
 #   test.sh --sanitize [CTEST OPTIONS...]   the suites under the address sanitizer and the one for undefined behaviour, in a
 #                                           build folder of their own
+#   test.sh --windows                       after a plain run: library, services and host as true Windows programs, linked, and
+#                                           the tests that need no scene, run under Wine and counted against that run
 set -euo pipefail
 root=$(cd "$(dirname "$0")" && pwd)
+if [ "${1:-}" = --windows ]; then
+    "$root/platform/mingw/check.sh"
+    exec "$root/platform/mingw/test.sh"
+fi
 export NX_BUILD=$root/build
 if [ "${1:-}" = --sanitize ]; then
     shift
