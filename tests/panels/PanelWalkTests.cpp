@@ -126,7 +126,7 @@ TEST_F(PanelWalkTest, any_order_of_resizes_full_scenes_ends_starts_rows_and_inpu
         random_.seed(walk);
         std::string way = "walk " + std::to_string(walk) + ":";
         Open(NumberedRows(3));
-        for (int i = 0; i < 60 && !HasFailure(); ++i)
+        for (int i = 0; i < 40 && !HasFailure(); ++i)
         {
             const Step& step = steps[Any(0, static_cast<int>(std::size(steps)) - 1)];
             way += std::string(" ") + step.name + ",";
