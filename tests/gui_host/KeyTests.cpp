@@ -7,6 +7,8 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
+#include <cstring>
+
 namespace
 {
 class Keys : public HostedFrame
@@ -115,7 +117,13 @@ TEST_F(Keys, arrive_as_osg_symbols_for_scan_code_and_character)
             [&list, character](const CEGUI::EventArgs& args)
             {
                 const auto& key = static_cast<const CEGUI::KeyEventArgs&>(args);
-                list.push_back(character ? static_cast<unsigned int>(key.codepoint) : static_cast<unsigned int>(key.scancode));
+                // As the number that it is: CEGUI's enumeration of scan codes ends before the keys' symbols.
+                unsigned int code = key.codepoint;
+                if (!character)
+                {
+                    std::memcpy(&code, &key.scancode, sizeof(code));
+                }
+                list.push_back(code);
                 return false;
             });
     };
