@@ -161,6 +161,7 @@ TEST(PictureClaim, sides_have_a_limit)
         return ClaimsWhatItCanHold(bytes.data(), bytes.size());
     };
     EXPECT_TRUE(png(32768, 2048)) << "64 M pixels";
+    EXPECT_TRUE(png(2048, 32768));
     EXPECT_TRUE(png(8192, 8192));
     EXPECT_FALSE(png(32768, 2049));
     EXPECT_FALSE(png(32769, 1));
@@ -168,4 +169,47 @@ TEST(PictureClaim, sides_have_a_limit)
     EXPECT_FALSE(png(0xFFFFFFFF, 0xFFFFFFFF));
     EXPECT_FALSE(png(0, 5));
     EXPECT_FALSE(png(5, 0));
+}
+
+TEST(PictureClaim, png_file_claims_at_most_what_its_kind_of_pixel_leaves_room_for)
+{
+    constexpr std::uint32_t fileSize = 1000;
+    // A byte of the file becomes at most 1032 bytes of the picture.
+    const struct
+    {
+        const char* name;
+        std::uint8_t depth;
+        std::uint8_t kind;
+        std::uint32_t pixels; ///< for each byte of the file
+    } rows[] = {
+        {"black and white", 1, 0, 8256},
+        {"gray", 8, 0, 1032},
+        {"16 bits of gray", 16, 0, 516},
+        {"colour", 8, 2, 344},
+        {"palette", 8, 3, 1032},
+        {"palette of four", 2, 3, 4128},
+        {"gray and alpha", 8, 4, 516},
+        {"colour and alpha", 8, 6, 258},
+        {"16 bits of colour and alpha", 16, 6, 129},
+    };
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.name);
+        const auto claims = [&](std::uint32_t width, std::uint32_t height)
+        {
+            std::vector<std::uint8_t> bytes = CorpusPicture("rgb.png");
+            bytes.resize(fileSize);
+            for (std::size_t i = 0; i < 4; ++i)
+            {
+                bytes[16 + i] = static_cast<std::uint8_t>(width >> (24 - 8 * i));
+                bytes[20 + i] = static_cast<std::uint8_t>(height >> (24 - 8 * i));
+            }
+            bytes[24] = row.depth;
+            bytes[25] = row.kind;
+            return ClaimsWhatItCanHold(bytes.data(), bytes.size());
+        };
+        EXPECT_TRUE(claims(row.pixels, fileSize));
+        EXPECT_FALSE(claims(row.pixels, fileSize + 1));
+        EXPECT_FALSE(claims(row.pixels + 1, fileSize));
+    }
 }

@@ -180,6 +180,23 @@ TEST(PictureCodec, bitmap_with_a_lying_header_is_refused)
     }
 }
 
+TEST(PictureCodec, bitmap_s_sides_have_a_limit)
+{
+    const auto reads = [](int width, int height, bool topDown)
+    {
+        const std::vector<std::uint8_t> bytes = Bmp32(Solid(width, height, 0xFF336699), topDown);
+        RgbaPicture picture;
+        return ReadBmpFile(bytes.data(), bytes.size(), picture) && picture.width == width && picture.height == height;
+    };
+    for (const bool topDown : {false, true})
+    {
+        EXPECT_TRUE(reads(32768, 1, topDown)) << topDown;
+        EXPECT_TRUE(reads(1, 32768, topDown)) << topDown;
+        EXPECT_FALSE(reads(32769, 1, topDown)) << topDown;
+        EXPECT_FALSE(reads(1, 32769, topDown)) << topDown;
+    }
+}
+
 TEST(PictureCodec, other_bitmaps_are_left_to_gdiplus)
 {
     RgbaPicture picture;
