@@ -143,6 +143,28 @@ TEST_F(LifeCycle, second_init_without_a_close_replaces_the_first)
     EXPECT_TRUE(Shown(Host()));
 }
 
+TEST_F(LifeCycle, textures_go_from_the_context_that_they_are_in_when_the_viewer_has_another)
+{
+    osg::Camera& camera = *Host().Viewer().getCamera();
+    const osg::ref_ptr<osg::GraphicsContext> context = camera.getGraphicsContext();
+    Host().Close();
+    context->makeCurrent();
+    const int scenes = NativeGl::LiveTextures();
+    Restart();
+    context->makeCurrent();
+    ASSERT_GT(NativeGl::LiveTextures(), scenes);
+    const osg::ref_ptr<osg::Group> node = Frame().GetGUINode();
+    {
+        GuiHost other(320, 240);
+        camera.setGraphicsContext(other.Viewer().getCamera()->getGraphicsContext());
+        Frame().CloseGuiSystem();
+        camera.setGraphicsContext(context);
+    }
+    Host().Root().removeChild(node);
+    context->makeCurrent();
+    EXPECT_EQ(NativeGl::LiveTextures(), scenes);
+}
+
 TEST_F(LifeCycle, init_after_close_works_with_another_viewer)
 {
     Host().Close();
