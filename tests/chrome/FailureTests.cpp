@@ -92,6 +92,34 @@ TEST_F(ChromeFailures, every_resize_that_fails_leaves_its_own_line)
     }
 }
 
+TEST_F(ChromeFailures, of_an_imageset_and_its_picture_the_one_to_mend_is_named)
+{
+    {
+        const FileReplaced picture(Path("TavLook.png"), {'n', 'o', 'n', 'e'});
+        Rebuild();
+        const Lines log = TakeLog();
+        ASSERT_EQ(log.size(), 1u);
+        EXPECT_EQ(Naming(log, "TavLook.png"), 1) << log[0];
+        EXPECT_EQ(Naming(log, "TavLook.imageset"), 0) << log[0];
+    }
+    {
+        // The picture is read before the end, which is not there.
+        const std::vector<std::uint8_t> good = ReadBytes(Path("TavLook.imageset"));
+        const std::string text(good.begin(), good.end());
+        const std::size_t end = text.rfind("</");
+        ASSERT_NE(end, std::string::npos);
+        const FileReplaced imageset(Path("TavLook.imageset"),
+                                    std::vector<std::uint8_t>(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(end)));
+        Rebuild();
+        const Lines log = TakeLog();
+        ASSERT_EQ(log.size(), 1u);
+        EXPECT_EQ(Naming(log, "TavLook.imageset"), 1) << log[0];
+        EXPECT_EQ(Naming(log, "TavLook.png"), 0) << log[0];
+    }
+    Rebuild();
+    EXPECT_TRUE(Shown());
+}
+
 TEST_F(ChromeFailures, corrupt_picture_at_a_resize_is_one_line_and_the_next_resize_mends_it)
 {
     for (const char* file : {"new_skin/topBG.png", "new_skin/close.png", "new_skin/bottomborder.png"})
