@@ -35,7 +35,16 @@ std::uint64_t Whole(FILETIME time)
 void FontInstallTest::SetUp()
 {
     FrameTest::SetUp();
-    Host().onMainWindowMessage = [](UINT message, WPARAM, LPARAM) { fontChanges += message == WM_FONTCHANGE; };
+    Host().onMainWindowMessage = [](UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_FONTCHANGE)
+        {
+            ++fontChanges;
+            // The message has no parameters.
+            EXPECT_EQ(wParam, 0u);
+            EXPECT_EQ(lParam, 0);
+        }
+    };
     Host().Frames(1);
     fontChanges = 0;
 }

@@ -102,6 +102,25 @@ TEST_F(OpenCloseTest, the_color_button_is_the_color_all_over)
     ReleaseDC(Control(ColorButton), dc);
 }
 
+TEST_F(OpenCloseTest, the_color_button_is_painted_anew_with_another_color)
+{
+    OpenTitleEditDialog();
+    Host().Frames(1);
+    const HWND control = Control(ColorButton);
+    UpdateWindow(control);
+    ASSERT_FALSE(GetUpdateRect(control, nullptr, FALSE));
+    auto* button = dynamic_cast<CColorSelBtnT*>(CWnd::FromHandlePermanent(control));
+    ASSERT_NE(button, nullptr);
+    button->SetColor(0x00996633);
+    EXPECT_TRUE(GetUpdateRect(control, nullptr, FALSE));
+    UpdateWindow(control);
+    CRect rect;
+    GetClientRect(control, rect);
+    const HDC dc = GetDC(control);
+    EXPECT_EQ(GetPixel(dc, rect.CenterPoint().x, rect.CenterPoint().y), COLORREF(0x00996633));
+    ReleaseDC(control, dc);
+}
+
 TEST_F(OpenCloseTest, opening_twice_shows_the_same_one)
 {
     OpenTitleEditDialog();
