@@ -47,6 +47,7 @@ protected:
     static void Give(const std::vector<const wchar_t*>& names)
     {
         std::vector<BTN_UNIT> records;
+        records.reserve(names.size());
         for (const wchar_t* name : names)
         {
             records.push_back(Record(name));

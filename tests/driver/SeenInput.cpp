@@ -23,8 +23,9 @@ public:
     bool handle(const osgGA::GUIEventAdapter& event, osgGA::GUIActionAdapter&) override
     {
         // The viewer counts rows from the bottom.
-        const std::string at = " " + std::to_string(std::lround(event.getX())) + "," +
-                               std::to_string(host_.Height() - 1 - std::lround(event.getY()));
+        const auto whole = [](double pixels) { return std::lround(pixels); };
+        const std::string at =
+            " " + std::to_string(whole(event.getX())) + "," + std::to_string(host_.Height() - 1 - whole(event.getY()));
         using Event = osgGA::GUIEventAdapter;
         switch (event.getEventType())
         {

@@ -49,12 +49,12 @@ TEST(String, IsAValue)
 
     CString moved = std::move(second);
     EXPECT_EQ(Utf8(moved), "one+");
-    EXPECT_TRUE(second.IsEmpty());
+    EXPECT_TRUE(second.IsEmpty()); // NOLINT(bugprone-use-after-move): a moved string is an empty one
     second = L"again";
     EXPECT_EQ(Utf8(second), "again");
     first = std::move(moved);
     EXPECT_EQ(Utf8(first), "one+");
-    EXPECT_TRUE(moved.IsEmpty());
+    EXPECT_TRUE(moved.IsEmpty()); // NOLINT(bugprone-use-after-move)
 }
 
 TEST(String, IsAssignedFromItsOwnText)

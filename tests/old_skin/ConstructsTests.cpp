@@ -52,10 +52,10 @@ TEST_F(OldSkinConstructs, have_a_line_for_each_that_is_left_out_and_no_other)
     EXPECT_EQ(
         log_,
         (Lines{"NxOsgCeGui: left out of a skin for CEGUI 0.6, WindowSet \"WidgetsOfOurOwn\": Constructs.scheme, line 7",
-               "NxOsgCeGui: left out of a skin for CEGUI 0.6, WindowRendererSet \"RenderersOfOurOwn\": "
-               "Constructs.scheme, line 11",
-               "NxOsgCeGui: left out of a skin for CEGUI 0.6, FalagardMapping \"Constructs/Gauge\" with Renderer "
-               "\"OurOwn/Gauge\": Constructs.scheme, line 20",
+               ("NxOsgCeGui: left out of a skin for CEGUI 0.6, WindowRendererSet \"RenderersOfOurOwn\": "
+                "Constructs.scheme, line 11"),
+               ("NxOsgCeGui: left out of a skin for CEGUI 0.6, FalagardMapping \"Constructs/Gauge\" with Renderer "
+                "\"OurOwn/Gauge\": Constructs.scheme, line 20"),
                "NxOsgCeGui: left out of a skin for CEGUI 0.6, Property \"UnifiedXPosition\": Constructs.looknfeel, line 106",
                "NxOsgCeGui: left out of a skin for CEGUI 0.6, PropertyDim \"UnifiedHeight\": Constructs.looknfeel, line 122"}));
 }
