@@ -59,7 +59,7 @@ osg::ref_ptr<osg::Image> Canvas::Image() const
     unsigned char* out = image->data();
     for (const Colour& pixel : m_pixels)
         for (int channel = 0; channel < 3; ++channel)
-            *out++ = static_cast<unsigned char>(std::min(1.0f, std::max(0.0f, pixel[channel])) * 255.0f + 0.5f);
+            *out++ = ByteOf(pixel[channel]);
     return image;
 }
 

@@ -28,11 +28,12 @@ void FillPolygon(Raster& raster, int size, double perMetre, const Polygon& shape
         low = std::min(low, p.y());
         high = std::max(high, p.y());
     }
-    const int from = std::max(0, static_cast<int>(std::ceil(low * perMetre + size / 2 - 0.5)));
-    const int to = std::min(size - 1, static_cast<int>(std::floor(high * perMetre + size / 2 - 0.5)));
+    const double middle = size * 0.5;
+    const int from = std::max(0, static_cast<int>(std::ceil(low * perMetre + middle - 0.5)));
+    const int to = std::min(size - 1, static_cast<int>(std::floor(high * perMetre + middle - 0.5)));
     for (int row = from; row <= to; ++row)
     {
-        const double y = (row + 0.5 - size / 2) / perMetre;
+        const double y = (row + 0.5 - middle) / perMetre;
         double left = 1e9, right = -1e9;
         for (std::size_t i = 0; i < shape.size(); ++i)
         {
@@ -44,8 +45,8 @@ void FillPolygon(Raster& raster, int size, double perMetre, const Polygon& shape
             left = std::min(left, x);
             right = std::max(right, x);
         }
-        const int x0 = std::max(0, static_cast<int>(left * perMetre + size / 2 + 0.5));
-        const int x1 = std::min(size, static_cast<int>(right * perMetre + size / 2 + 0.5));
+        const int x0 = std::max(0, static_cast<int>(std::lround(left * perMetre + middle)));
+        const int x1 = std::min(size, static_cast<int>(std::lround(right * perMetre + middle)));
         for (int x = x0; x < x1; ++x)
             raster[static_cast<std::size_t>(row) * size + x] = value;
     }
@@ -111,7 +112,7 @@ std::vector<Colour> PaintLamps(const std::vector<Lamp>& lamps, const Colour& col
     pools.resize(static_cast<std::size_t>(kSize) * kSize);
     for (const Lamp& lamp : lamps)
     {
-        const double cx = lamp.place.x() * kPerMetre + kSize / 2, cy = lamp.place.y() * kPerMetre + kSize / 2;
+        const double cx = lamp.place.x() * kPerMetre + kSize * 0.5, cy = lamp.place.y() * kPerMetre + kSize * 0.5;
         const double r = lamp.radius * kPerMetre;
         for (int y = std::max(0, static_cast<int>(cy - r)); y <= std::min(kSize - 1, static_cast<int>(cy + r)); ++y)
             for (int x = std::max(0, static_cast<int>(cx - r)); x <= std::min(kSize - 1, static_cast<int>(cx + r)); ++x)
@@ -170,7 +171,7 @@ osg::ref_ptr<osg::Image> LightMap::Paint(const Daylight& light) const
             if (!pools.empty() && !edge)
                 colour += pools[static_cast<std::size_t>(y / 2) * (kPixels / 2) + x / 2];
             for (int channel = 0; channel < 3; ++channel)
-                *out++ = static_cast<unsigned char>(std::min(1.0f, colour[channel]) * 255.0f + 0.5f);
+                *out++ = ByteOf(colour[channel]);
         }
     }
     return image;

@@ -15,8 +15,7 @@ constexpr int kRasterHalf = 2;
 
 osg::Vec4ub Bytes(const Colour& colour)
 {
-    const auto byte = [](float v) { return static_cast<unsigned char>(std::min(1.0f, std::max(0.0f, v)) * 255.0f + 0.5f); };
-    return {byte(colour.x()), byte(colour.y()), byte(colour.z()), 255};
+    return {ByteOf(colour.x()), ByteOf(colour.y()), ByteOf(colour.z()), 255};
 }
 
 int RasterIndex(double v)
@@ -33,6 +32,11 @@ osg::ref_ptr<Array> Copy(const std::vector<Item>& items)
 }
 
 } // namespace
+
+unsigned char ByteOf(float part)
+{
+    return static_cast<unsigned char>(std::lround(std::min(1.0f, std::max(0.0f, part)) * 255.0f));
+}
 
 unsigned Mesh::Vertex(const Corner& corner, const osg::Vec3d& normal)
 {

@@ -15,6 +15,9 @@ namespace city
 /// Red, green, blue in [0, 1].
 using Colour = osg::Vec3f;
 
+/// A colour's part, 0 to 1 or beyond, as a picture's byte.
+unsigned char ByteOf(float part);
+
 struct Corner
 {
     osg::Vec3d position;

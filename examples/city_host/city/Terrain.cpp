@@ -86,6 +86,7 @@ void AddHills(Site& site)
     {
         const double distance = range == 0 ? 4700.0 : 6200.0;
         std::vector<double> heights;
+        heights.reserve(kPeaks);
         for (int i = 0; i < kPeaks; ++i)
             heights.push_back(site.random.Range(30.0, 150.0) * (range + 1.2) * (0.55 + 0.45 * std::sin(i * 0.26 + range * 2.0)));
         Mesh& mesh = site.meshes.At(Surface::Plain, {0.0, 0.0});

@@ -31,7 +31,7 @@ Skin OfficeSkin(Site& site)
 
 int FloorsOf(double height, Surface facade)
 {
-    return std::max(1, static_cast<int>(height / ModuleOf(facade).floor + 0.5));
+    return std::max(1, static_cast<int>(std::lround(height / ModuleOf(facade).floor)));
 }
 
 /// Lift houses and cooling plant.

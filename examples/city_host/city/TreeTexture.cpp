@@ -59,7 +59,7 @@ osg::ref_ptr<osg::Image> PaintTree()
     Picture picture;
     for (int y = 0; y < 50; ++y)
         for (int x = -3; x <= 3; ++x)
-            picture.Dot(kHalf / 2 + x, y, 1.0, kTrunk);
+            picture.Dot(kHalf * 0.5 + x, y, 1.0, kTrunk);
     AddCrown(picture, random, kHalf / 2.0, kHalf * 0.57, kHalf * 0.42, kHalf * 0.36, true);
     AddCrown(picture, random, kHalf * 1.5, kHalf * 0.5, kHalf * 0.42, kHalf * 0.42, false);
     osg::ref_ptr<osg::Image> image = new osg::Image;
@@ -70,7 +70,7 @@ osg::ref_ptr<osg::Image> PaintTree()
         {
             const Colour& colour = picture.colours.At(x, y);
             for (int channel = 0; channel < 3; ++channel)
-                *out++ = static_cast<unsigned char>(std::min(1.0f, std::max(0.0f, colour[channel])) * 255.0f + 0.5f);
+                *out++ = ByteOf(colour[channel]);
             *out++ = picture.alpha[static_cast<std::size_t>(y) * 2 * kHalf + x];
         }
     return image;
