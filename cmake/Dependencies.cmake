@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# OpenSceneGraph, CEGUI 0.8 and OpenGL as the one target nx_scene; GDI+, USER, GDI and the registry as nx_win32.
+# OpenSceneGraph, CEGUI 0.8 and OpenGL as the one target nx_scene; GDI+, USER, GDI and the registry as nx_win32;
+# the decoder of PNG files as nx_png.
 include_guard(GLOBAL)
 find_package(OpenSceneGraph 3.6 REQUIRED COMPONENTS osgDB osgGA osgUtil osgViewer)
 
@@ -20,6 +21,15 @@ else()
     find_package(OpenGL REQUIRED)
     set(NX_GL_LIBRARY OpenGL::GL)
 endif()
+
+# Some distributions ship no CMake package of it.
+find_path(SPNG_INCLUDE_DIR spng.h REQUIRED)
+find_library(SPNG_LIBRARY NAMES spng spng_static REQUIRED)
+add_library(nx_png INTERFACE)
+target_include_directories(nx_png SYSTEM INTERFACE ${SPNG_INCLUDE_DIR})
+target_link_libraries(nx_png INTERFACE ${SPNG_LIBRARY})
+# Its functions are found without the attribute that says where, in a static library as well.
+target_compile_definitions(nx_png INTERFACE SPNG_STATIC)
 
 add_library(nx_win32 INTERFACE)
 target_link_libraries(nx_win32 INTERFACE gdiplus gdi32 user32 comdlg32 comctl32 advapi32 ole32 oleaut32 shell32 uuid kernel32)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # What the Windows build wants beside the packages of the Linux build; to be sourced.
 mingw_packages=(g++-mingw-w64-x86-64-posix googletest libgtest-dev libpugixml-dev libopenscenegraph-dev libcegui-mk2-dev
-    libglew-dev libglm-dev cmake ninja-build dpkg-dev)
+    libglew-dev libglm-dev libspng-dev libz-mingw-w64-dev cmake ninja-build dpkg-dev)
 
 # install_mingw_packages FOLDER: those that are missing, with apt's output in FOLDER/apt.log.
 install_mingw_packages()

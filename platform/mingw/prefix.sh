@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes a folder like one with libraries for Windows in it: GoogleTest and pugixml, built from the distribution's sources, and the
+# Makes a folder like one with libraries for Windows in it: GoogleTest, pugixml and libspng, built from the distribution's sources, and the
 # headers of OpenSceneGraph and CEGUI, which are the Linux distribution's as far as they are the same.
 #   prefix.sh FOLDER
 set -euo pipefail
@@ -33,6 +33,8 @@ ln -sfn "$prefix/osg-win32/include/osgViewer/api/Win32" "$include/osgViewer/api/
 
 "$root/platform/fetch_source.sh" pugixml "$prefix/pugixml" '*/src/pugi*'
 ln -sf "$prefix"/pugixml/src/*.hpp "$include/"
+"$root/platform/fetch_source.sh" libspng "$prefix/libspng" '*/spng/spng.*'
+ln -sf "$prefix/libspng/spng/spng.h" "$include/"
 ln -sfn /usr/src/googletest/googletest/include/gtest "$include/gtest"
 
 objects=$prefix/objects
@@ -41,10 +43,15 @@ gtest=/usr/src/googletest/googletest
 "$compiler" -std=c++17 -O0 -w -I"$gtest" -I"$include" -c "$gtest/src/gtest-all.cc" -o "$objects/gtest.o" &
 "$compiler" -std=c++17 -O0 -w -I"$include" -c "$gtest/src/gtest_main.cc" -o "$objects/gtest_main.o"
 "$compiler" -std=c++17 -O1 -w -c "$prefix/pugixml/src/pugixml.cpp" -o "$objects/pugixml.o"
+x86_64-w64-mingw32-gcc-posix -O2 -w -DSPNG_STATIC -c "$prefix/libspng/spng/spng.c" -o "$objects/spng.o"
 wait $!
 for name in gtest gtest_main pugixml; do
     x86_64-w64-mingw32-ar rcs "$prefix/lib/lib$name.a" "$objects/$name.o"
 done
+# With zlib in it.
+mkdir -p "$objects/zlib"
+(cd "$objects/zlib" && x86_64-w64-mingw32-ar x "$(x86_64-w64-mingw32-gcc-posix -print-file-name=libz.a)")
+x86_64-w64-mingw32-ar rcs "$prefix/lib/libspng.a" "$objects/spng.o" "$objects"/zlib/*.o
 mkdir -p "$prefix/lib/cmake/pugixml"
 cat >"$prefix/lib/cmake/pugixml/pugixml-config.cmake" <<CONFIG
 add_library(pugixml::pugixml STATIC IMPORTED)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GuiImageCodec.h"
 
+#include "PngFile.h"
+
 #include <CEGUI/DataContainer.h>
 #include <CEGUI/Size.h>
 #include <CEGUI/Texture.h>
@@ -48,7 +50,7 @@ bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPictur
 
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
-    return ReadBmpFile(data, size, picture) || DecodeThroughGdiplus(data, size, picture);
+    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture) || DecodeThroughGdiplus(data, size, picture);
 }
 
 GuiImageCodec::GuiImageCodec() : ImageCodec("NxOsgCeGui picture codec")
