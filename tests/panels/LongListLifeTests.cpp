@@ -16,6 +16,21 @@ TEST_F(LongListTest, a_short_list_after_a_long_one_is_one_picture_again)
     ExpectRowsInSight(1000);
 }
 
+TEST_F(LongListTest, a_long_list_after_a_short_one_shows_nothing_of_that)
+{
+    const Rows tall = NumberedRows(LargestTexture() / RowHeight + 2);
+    Open(tall);
+    Refresh(tall);
+    const std::vector<Pixel> alone = Host().Shoot().pixels;
+    MakeContextCurrent();
+    Refresh(NumberedRows(3));
+    EXPECT_FALSE(Host().Shoot().pixels == alone);
+    MakeContextCurrent();
+    Refresh(tall);
+    EXPECT_EQ(ImageOf(ListPicture), "");
+    EXPECT_TRUE(Host().Shoot().pixels == alone);
+}
+
 TEST_F(LongListTest, tooltips_name_the_row_under_the_mouse_as_ever)
 {
     Rows rows = NumberedRows(1000);

@@ -2,6 +2,8 @@
 // The picture of the panel's frame, and what happens when its template is missing.
 #include "PanelTest.h"
 
+#include <CEGUI/WindowFactoryManager.h>
+
 using PanelPictureTest = PanelTest;
 
 namespace
@@ -165,6 +167,22 @@ TEST_F(PanelPictureTest, without_a_font_family_nothing_is_made)
     EXPECT_EQ(GuiHost::Find(PanelFrame), nullptr);
     EXPECT_EQ(GuiHost::Find(ListFrame), nullptr);
     TakeLog();
+}
+
+TEST_F(PanelPictureTest, a_skin_without_a_type_of_window_leaves_a_line_and_no_panel)
+{
+    CEGUI::WindowFactoryManager& types = CEGUI::WindowFactoryManager::getSingleton();
+    const auto mapping = types.getFalagardMappingForType("TavLook/StaticImage");
+    types.removeFalagardWindowMapping(mapping.d_windowType);
+    Open(NumberedRows(3));
+    types.addFalagardWindowMapping(mapping.d_windowType, mapping.d_baseType, mapping.d_lookName, mapping.d_rendererType,
+                                   mapping.d_effectName);
+    EXPECT_EQ(GuiHost::Find(PanelFrame), nullptr);
+    const Lines log = TakeLog();
+    ASSERT_EQ(log.size(), 1u);
+    EXPECT_EQ(log[0].find("NxOsgCeGui: property panel not shown ("), 0u) << log[0];
+    EXPECT_TRUE(Refresh(NumberedRows(3)));
+    EXPECT_TRUE(Visible(PanelFrame));
 }
 
 TEST_F(PanelPictureTest, a_file_that_cannot_be_written_keeps_the_old_picture)

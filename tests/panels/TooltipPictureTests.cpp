@@ -2,6 +2,7 @@
 // The tooltip's picture file: its size, its colours and its text.
 #include "PanelTest.h"
 
+#include <panels/TooltipPicture.h>
 #include <widgets/TextMeasurer.h>
 
 #include <CEGUI/Renderer.h>
@@ -171,6 +172,15 @@ TEST_F(TooltipPictureTest, the_hundredth_character_counts_and_the_next_does_not)
     EXPECT_TRUE(ReadBytes(TooltipFile()) == drawn);
     Frame().CreateTooltipWindow(0, 0, start + L"j" + Repeated(L"i", 50));
     EXPECT_FALSE(ReadBytes(TooltipFile()) == drawn);
+}
+
+TEST_F(TooltipPictureTest, one_without_room_is_not_written)
+{
+    ASSERT_TRUE(WriteTooltipPicture(L"text", 100));
+    MakeOld(TooltipFile());
+    EXPECT_FALSE(WriteTooltipPicture(L"text", 0));
+    EXPECT_TRUE(IsOld(TooltipFile()));
+    EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: tooltip picture not written: " + Utf8(TooltipFile())});
 }
 
 TEST_F(TooltipPictureTest, the_picture_of_five_thousand_characters_is_as_wide_as_a_texture_can_be)
