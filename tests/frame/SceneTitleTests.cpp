@@ -132,6 +132,14 @@ TEST_F(SceneTitleTest, an_empty_title_keeps_a_slot)
     EXPECT_GT(YellowPixels(), 20);
 }
 
+TEST_F(SceneTitleTest, a_title_without_height_keeps_it_as_well)
+{
+    ASSERT_EQ(Measured(L"\n", 20).cy, 0);
+    Frame().ChangeTitleText(L"Yellow", Yellow, Font, 20.0f);
+    Frame().ChangeTitleText(L"\n", Yellow, Font, 20.0f);
+    EXPECT_EQ(Place(TitleText), "50,10 - 150,40");
+}
+
 TEST_F(SceneTitleTest, a_text_higher_than_the_bar_reaches_over_both_edges)
 {
     Frame().ChangeTitleText(L"High", Yellow, Font, 60.0f);
