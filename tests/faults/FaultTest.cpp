@@ -133,8 +133,10 @@ Fault::~Fault()
 void FaultTest::SetUp()
 {
     HostedFrame::SetUp();
+    constexpr int recordCount = 4;
     std::vector<BTN_UNIT> records;
-    for (int i = 0; i < 4; ++i)
+    records.reserve(recordCount);
+    for (int i = 0; i < recordCount; ++i)
     {
         records.push_back(NewRecord(i));
     }

@@ -200,7 +200,7 @@ TEST_F(LongListTest, a_step_brings_the_entry_towards_the_middle)
 {
     Frame().SetBtnIndex(300);
     Frame().AddBtnIndex();
-    EXPECT_NEAR(EntryRect(301).top, Top + BarHeight / 2, 1);
+    EXPECT_NEAR(EntryRect(301).top, Top + BarHeight / 2.0, 1);
     Host().TakeMessages();
 }
 
