@@ -2,6 +2,8 @@
 // Where the skin is looked for.
 #include "support/HostedFrame.h"
 
+#include <gui_host/SkinFileKind.h>
+
 #include <KernelCommonUse/StringConvert.h>
 #include <NxConfig/ParamConfig.h>
 #include <NxConfig/SystemUtility.h>
@@ -95,4 +97,24 @@ TEST_F(SkinDirectory, is_application_and_resource_directory_alone_when_the_param
     Use("");
     EXPECT_TRUE(Frame().Init(&Host().Viewer(), GUI_USER_FULL));
     EXPECT_TRUE(Frame().IsInit());
+}
+
+TEST(SkinFiles, are_known_by_their_endings)
+{
+    const struct
+    {
+        const char* file;
+        bool xml;
+    } rows[] = {
+        {"a.scheme", true}, {"folder/TavLook.imageset", true}, {"a.looknfeel", true}, {"a.font", true}, {"a.png", false},
+        {"scheme", false},  {"a.scheme.bak", false},           {".scheme", false},    {"", false},
+    };
+    for (const auto& row : rows)
+    {
+        EXPECT_EQ(SkinFileKind::IsXml(row.file), row.xml) << row.file;
+    }
+    EXPECT_EQ(SkinFileKind::Mismatch("a.font", "<Font />"), "");
+    EXPECT_EQ(SkinFileKind::Mismatch("a.font", "<Imageset />"), "its root element is 'Imageset' instead of 'Font'");
+    EXPECT_EQ(SkinFileKind::Mismatch(".font", "<Imageset />"), "");
+    EXPECT_EQ(SkinFileKind::Mismatch("a.font", "no XML"), "");
 }
