@@ -120,6 +120,7 @@ private:
             return known->second;
         }
         list_.pictures.push_back(PixelsOf(CEGUI::System::getSingleton().getRenderer()->getTexture(texture)));
+        list_.files.emplace_back(texture.c_str());
         return pictures_[texture] = static_cast<int>(list_.pictures.size()) - 1;
     }
 

@@ -15,9 +15,26 @@ bool IsPng(const std::string& file)
 {
     return file.size() > 4 && file.compare(file.size() - 4, 4, ".png") == 0;
 }
+
+void ShowFrame(CEGUI::System& system, const DrawList& frame)
+{
+    CEGUI::WindowManager& windows = CEGUI::WindowManager::getSingleton();
+    CEGUI::Window* root = windows.createWindow("DefaultWindow", "root");
+    system.notifyDisplaySizeChanged(CEGUI::Sizef(static_cast<float>(frame.width), static_cast<float>(frame.height)));
+    system.getDefaultGUIContext().setRootWindow(root);
+    for (const Quad& quad : frame.quads)
+    {
+        CEGUI::Window* window = windows.createWindow("TavLook/StaticImage");
+        window->setPosition(CEGUI::UVector2(CEGUI::UDim(0, quad.left), CEGUI::UDim(0, quad.top)));
+        window->setSize(CEGUI::USize(CEGUI::UDim(0, quad.right - quad.left), CEGUI::UDim(0, quad.bottom - quad.top)));
+        window->setProperty("Image", frame.files[static_cast<std::size_t>(quad.picture)]);
+        root->addChild(window);
+    }
+}
 } // namespace
 
-BareCegui::BareCegui(const std::string& skinFolder, const std::vector<std::string>& files, const std::vector<Picture>& pictures)
+BareCegui::BareCegui(const std::string& skinFolder, const std::vector<std::string>& files, const std::vector<Picture>& pictures,
+                     const DrawList& frame)
 {
     CEGUI::Exception::setStdErrEnabled(false);
     CEGUI::OpenGLRenderer& renderer = CEGUI::OpenGLRenderer::create();
@@ -40,9 +57,14 @@ BareCegui::BareCegui(const std::string& skinFolder, const std::vector<std::strin
         {
             // Its own codec does not read bitmap files.
             const CEGUI::Sizef size(static_cast<float>(pictures[i].width), static_cast<float>(pictures[i].height));
-            renderer.createTexture(files[i]).loadFromMemory(pictures[i].rgba.data(), size, CEGUI::Texture::PF_RGBA);
+            CEGUI::Texture& texture = renderer.createTexture(files[i]);
+            texture.loadFromMemory(pictures[i].rgba.data(), size, CEGUI::Texture::PF_RGBA);
+            auto& image = static_cast<CEGUI::BasicImage&>(CEGUI::ImageManager::getSingleton().create("BasicImage", files[i]));
+            image.setTexture(&texture);
+            image.setArea(CEGUI::Rectf(0, 0, size.d_width, size.d_height));
         }
     }
+    ShowFrame(system, frame);
     system.renderAllGUIContexts();
 }
 

@@ -8,7 +8,8 @@
 
 namespace bench
 {
-/// CEGUI started by itself, with its own parts: the skin's scheme, and the pictures that the interface loads.
+/// CEGUI started by itself, with its own parts: the skin's scheme, the pictures that the interface loads, and a first frame with
+/// a window of the skin for each rectangle of the interface.
 /// CEGUI is one in a process, so the interface has to be closed; the OpenGL context has to be current.
 class BareCegui
 {
@@ -16,7 +17,9 @@ public:
     /// @param skinFolder a path of the machine's
     /// @param files relative to it
     /// @param pictures their pixels, for the kinds that CEGUI itself does not read
-    BareCegui(const std::string& skinFolder, const std::vector<std::string>& files, const std::vector<Picture>& pictures);
+    /// @param frame what is drawn; without rectangles there is no window
+    BareCegui(const std::string& skinFolder, const std::vector<std::string>& files, const std::vector<Picture>& pictures,
+              const DrawList& frame);
     ~BareCegui();
     BareCegui(const BareCegui&) = delete;
     BareCegui& operator=(const BareCegui&) = delete;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace osg
@@ -40,6 +41,7 @@ struct DrawList
     int width = 0;
     int height = 0;
     std::vector<Picture> pictures;
+    std::vector<std::string> files; ///< of the pictures, relative to the skin
     std::vector<Quad> quads;
 };
 

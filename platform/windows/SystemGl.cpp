@@ -7,10 +7,36 @@
 
 namespace SystemGl
 {
-void FilterTexture(unsigned int texture, bool nearest)
+void ResetModelMatrix()
+{
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+}
+
+void UseVertices(const Vertex* vertices)
+{
+    glTexCoordPointer(2, GL_FLOAT, sizeof(Vertex), vertices->texture);
+    glColorPointer(4, GL_FLOAT, sizeof(Vertex), vertices->color);
+    glVertexPointer(3, GL_FLOAT, sizeof(Vertex), vertices->position);
+}
+
+void DrawTriangles(int first, int count)
+{
+    glDrawArrays(GL_TRIANGLES, first, count);
+}
+
+void BindTexture(unsigned int texture)
 {
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, nearest ? GL_NEAREST : GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, nearest ? GL_NEAREST : GL_LINEAR);
+}
+
+void EnableScissor(bool enable)
+{
+    (enable ? glEnable : glDisable)(GL_SCISSOR_TEST);
+}
+
+void Scissor(int x, int y, int width, int height)
+{
+    glScissor(x, y, width, height);
 }
 } // namespace SystemGl

@@ -61,12 +61,14 @@ void CeGuiMainFrame::CreateLeftList()
     list.autoHide = true;
     list.StartHideAnimation(false);
 
+    list.BeginButtons();
     for (int i = 0; i < ControlButtonCount(); ++i)
     {
         const BTN_UNIT& record = controlButtons_[static_cast<std::size_t>(i)];
         const CString stem = MakeThumbnail(record.target, record.lastText, static_cast<UINT>(i), record.kind);
         list.AddImageButton(EntryWindowName(record), NormalFile(stem), L"", PushedFile(stem), L"");
     }
+    list.EndButtons();
     list.CreateScrollThumb(ThumbMargin, L"scrollbar", L"new_skin/verticalscrollbar.png", L"new_skin/verticalscrollbar_hover.png",
                            L"");
     EnterBar(list);
@@ -102,11 +104,10 @@ bool CeGuiMainFrame::ChangeLeftBtnState(int oldIndex, int newIndex, bool scrollT
         return false;
     }
     CeGuiToolBar* list = FindBar(FrameNames::LeftList);
-    if (!list)
+    if (!list || !MakeContextCurrent())
     {
         return true;
     }
-    MakeContextCurrent();
     if (oldIndex >= 0 && oldIndex < ControlButtonCount())
     {
         SetEntryPushed(*list, oldIndex, false);

@@ -74,13 +74,13 @@ void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)
 
 void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CString fontStyle, float fontHeight)
 {
-    MakeContextCurrent();
     sceneTitle_ = title;
     sceneTitleColor_ = color;
     sceneTitleFontHeight_ = fontHeight;
     sceneTitleFontStyle_ = std::move(fontStyle);
     CeGuiToolBar* bar = FindBar(FrameNames::TitleBar);
-    if (!bar || titleTextItem_ < 0)
+    // A view that has lost its context gets the picture with its next frame.
+    if (!bar || titleTextItem_ < 0 || !MakeContextCurrent())
     {
         return;
     }

@@ -11,6 +11,7 @@
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "CeGuiEventHandler.h"
+#include "GlobalEvents.h"
 #include "SkinResourceProvider.h"
 
 #include <KernelCommonUse/StringConvert.h>
@@ -19,9 +20,9 @@
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
-#include <CEGUI/GlobalEventSet.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
+#include <CEGUI/Logger.h>
 #include <CEGUI/SchemeManager.h>
 #include <CEGUI/ScriptModule.h>
 #include <CEGUI/System.h>
@@ -37,24 +38,6 @@ const char* const SkinGroup = "skindir";
 const char* const SchemeFile = "TavLookSkin.scheme";
 const char* const LogFile = "CEGUI.log";
 const char* const SkinParameter = "CEGUI_SkinDir";
-
-/// Tells the events of all objects of a class to those who ask for them. CEGUI's own puts together a new text for every event to
-/// look for such, which takes memory at each draw.
-class AskedEvents : public CEGUI::GlobalEventSet
-{
-public:
-    void fireEvent(const CEGUI::String& name, CEGUI::EventArgs& args, const CEGUI::String& eventNamespace) override
-    {
-        name_.assign(eventNamespace).append("/").append(name);
-        if (getEventObject(name_))
-        {
-            GlobalEventSet::fireEvent(name, args, eventNamespace);
-        }
-    }
-
-private:
-    CEGUI::String name_; ///< keeps its memory from one event to the next
-};
 
 bool ForgetDestroyedWindow(const CEGUI::EventArgs& args)
 {
@@ -141,15 +124,17 @@ void CeGuiDrawable::SetupCeGui()
 {
     // CEGUI writes every exception to its log; on standard error a host's user would see it twice.
     CEGUI::Exception::setStdErrEnabled(false);
-    renderer_ = &GuiRenderer::Create();
+    GuiRenderer& renderer = GuiRenderer::Create();
+    renderer_ = &renderer;
     // OSG leaves depth test, culling, texture environment and the like as the scene wants them.
-    renderer_->enableExtraStateSettings(true);
+    renderer.enableExtraStateSettings(true);
     resourceProvider_ = std::make_shared<SkinResourceProvider>();
     imageCodec_ = std::make_shared<GuiImageCodec>();
     system_ = &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", LogFile);
+    renderer.DrawTogether(system_->getDefaultGUIContext());
     // CEGUI's end takes away whichever there is.
     delete CEGUI::GlobalEventSet::getSingletonPtr();
-    new AskedEvents;
+    new GlobalEvents;
     TakeServiceLog();
     CEGUI::WindowManager::getSingleton().subscribeEvent(CEGUI::WindowManager::EventWindowDestroyed,
                                                         CEGUI::SubscriberSlot(&ForgetDestroyedWindow));
@@ -175,6 +160,9 @@ void CeGuiDrawable::Config()
 void CeGuiDrawable::InitResource()
 {
     CEGUI::SchemeManager::getSingleton().createFromFile(SchemeFile, "");
+    // From here to the end CEGUI would note every texture that it makes and takes away, hundreds with each size of the window, and
+    // what a user can mend would be lost among them.
+    CEGUI::Logger::getSingleton().setLoggingLevel(CEGUI::Warnings);
 }
 
 void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
@@ -196,6 +184,7 @@ void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
         state.unbindElementBufferObject();
         state.setClientActiveTextureUnit(0);
         state.setActiveTextureUnit(0);
+        static_cast<GuiRenderer*>(renderer_)->UseState(state);
         CEGUI::System::getSingleton().renderAllGUIContexts();
     }
     state.checkGLErrors("CEGUIDrawable::drawImplementation");
@@ -210,6 +199,8 @@ void CeGuiDrawable::Finish()
         CEGUI::WindowManager::getSingleton().destroyAllWindows();
         CEGUI::WindowManager::getSingleton().cleanDeadPool();
         FileImagesets::DestroyAllImagesets();
+        FileImagesets::TextureReuse::DestroyLeft();
+        CEGUI::Logger::getSingleton().setLoggingLevel(CEGUI::Standard);
         CEGUI::System::destroy();
         system_ = nullptr;
         resourceProvider_.reset();

@@ -3,6 +3,7 @@
 
 #include "../control_buttons/ButtonEditing.h"
 #include "../widgets/FailureLog.h"
+#include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
 #include "../widgets/Names.h"
 
@@ -165,6 +166,7 @@ bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)
     CEGUI::System::getSingleton().notifyDisplaySizeChanged(CEGUI::Sizef(static_cast<float>(width), static_cast<float>(height)));
     CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
     frame.SetWindowSize(static_cast<UINT>(width), static_cast<UINT>(height));
+    const FileImagesets::TextureReuse reuse;
     frame.ClearAllWindows();
     frame.CreateMainFrame();
     Gui().markAsDirty();

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "GuiRenderer.h"
 
-#include "../../platform/SystemGl.h"
-
 #include <CEGUI/RendererModules/OpenGL/GLGeometryBuffer.h>
 #include <CEGUI/RendererModules/OpenGL/Texture.h>
+#include <CEGUI/RenderingSurface.h>
+
+#include <osg/GLExtensions>
+#include <osg/State>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace
 {
@@ -23,7 +26,7 @@ bool IsWhole(float pixels)
 class Pictures : public CEGUI::OpenGLGeometryBuffer
 {
 public:
-    explicit Pictures(CEGUI::OpenGLRenderer& owner) : CEGUI::OpenGLGeometryBuffer(owner) {}
+    explicit Pictures(GuiRenderer& owner) : CEGUI::OpenGLGeometryBuffer(owner), renderer_(owner) {}
 
     void setTranslation(const CEGUI::Vector3f& translation) override
     {
@@ -64,34 +67,45 @@ public:
         if (!known_ && plain)
         {
             known_ = true;
-            seen_ = IsSeen();
+            Look();
             pixelOnPixel_ = IsPixelOnPixel();
         }
         if (plain && !seen_)
         {
             return;
         }
-        // Another window may have shown the same texture in another way.
-        for (const BatchInfo& batch : d_batches)
+        if (plain && d_blendMode == CEGUI::BM_NORMAL && renderer_.MayWait())
         {
-            SystemGl::FilterTexture(batch.texture, plain && pixelOnPixel_);
+            Wait();
+            return;
         }
+        renderer_.DrawWaiting();
+        renderer_.ReadNearestPixels(plain && pixelOnPixel_);
         OpenGLGeometryBuffer::draw();
     }
 
 private:
-    bool IsSeen() const
+    void Wait() const
     {
-        if (d_vertices.empty())
-        {
-            return false;
-        }
+        static_assert(sizeof(GLVertex) == sizeof(SystemGl::Vertex), "they are copied as they stand");
+        std::size_t first = 0;
         for (const BatchInfo& batch : d_batches)
         {
-            if (!batch.clip)
-            {
-                return true;
-            }
+            renderer_.Wait(
+                {batch.texture, pixelOnPixel_, batch.clip && !whole_, d_clipRect, 0, static_cast<int>(batch.vertexCount)},
+                d_vertices[first].tex, d_translation);
+            first += batch.vertexCount;
+        }
+    }
+
+    /// Finds out what of it is seen.
+    void Look() const
+    {
+        seen_ = !d_vertices.empty();
+        whole_ = false;
+        if (!seen_ || std::any_of(d_batches.begin(), d_batches.end(), [](const BatchInfo& batch) { return !batch.clip; }))
+        {
+            return;
         }
         const auto [left, right] =
             std::minmax_element(d_vertices.begin(), d_vertices.end(),
@@ -99,12 +113,14 @@ private:
         const auto [top, bottom] =
             std::minmax_element(d_vertices.begin(), d_vertices.end(),
                                 [](const GLVertex& a, const GLVertex& b) { return a.position[1] < b.position[1]; });
+        const CEGUI::Rectf place(left->position[0] + d_translation.d_x, top->position[1] + d_translation.d_y,
+                                 right->position[0] + d_translation.d_x, bottom->position[1] + d_translation.d_y);
         // CEGUI cuts at whole pixels, on either side of the true edge.
-        return right->position[0] + d_translation.d_x >= d_clipRect.left() - 1 &&
-               left->position[0] + d_translation.d_x <= d_clipRect.right() + 1 &&
-               bottom->position[1] + d_translation.d_y >= d_clipRect.top() - 1 &&
-               top->position[1] + d_translation.d_y <= d_clipRect.bottom() + 1 && d_clipRect.getWidth() > 0 &&
-               d_clipRect.getHeight() > 0;
+        seen_ = place.right() >= d_clipRect.left() - 1 && place.left() <= d_clipRect.right() + 1 &&
+                place.bottom() >= d_clipRect.top() - 1 && place.top() <= d_clipRect.bottom() + 1 && d_clipRect.getWidth() > 0 &&
+                d_clipRect.getHeight() > 0;
+        whole_ = place.left() >= std::ceil(d_clipRect.left()) && place.right() <= std::floor(d_clipRect.right()) &&
+                 place.top() >= std::ceil(d_clipRect.top()) && place.bottom() <= std::floor(d_clipRect.bottom());
     }
 
     /// Whether all of it is one picture of which each pixel fills one of the view's.
@@ -130,18 +146,133 @@ private:
                            });
     }
 
+    GuiRenderer& renderer_;
     bool turned_ = false;
     mutable bool known_ = false;
     mutable bool seen_ = true;
+    mutable bool whole_ = false; ///< nothing of it is cut off
     mutable bool pixelOnPixel_ = false;
 };
 } // namespace
 
 GuiRenderer::GuiRenderer() : CEGUI::OpenGLRenderer(TTT_AUTO) {}
 
+GuiRenderer::~GuiRenderer()
+{
+    if (sampler_ != 0)
+    {
+        extensions_->glDeleteSamplers(1, &sampler_);
+    }
+}
+
 GuiRenderer& GuiRenderer::Create()
 {
     return *new GuiRenderer;
+}
+
+void GuiRenderer::UseState(osg::State& state)
+{
+    extensions_ = state.get<osg::GLExtensions>();
+    nearest_ = false;
+    // A window that was closed and made again has another context, in which there is none yet.
+    if (sampler_ != 0 && !extensions_->glIsSampler(sampler_))
+    {
+        sampler_ = 0;
+        asked_ = false;
+    }
+    if (!asked_)
+    {
+        asked_ = true;
+        if (!osg::isGLExtensionOrVersionSupported(state.getContextID(), "GL_ARB_sampler_objects", 3.3f))
+        {
+            return;
+        }
+        extensions_->glGenSamplers(1, &sampler_);
+        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    }
+}
+
+void GuiRenderer::DrawTogether(CEGUI::RenderingSurface& surface)
+{
+    surface_ = &surface;
+    surface.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueEnded,
+                           [this](const CEGUI::EventArgs&)
+                           {
+                               DrawWaiting();
+                               return true;
+                           });
+}
+
+void GuiRenderer::endRendering()
+{
+    DrawWaiting();
+    ReadNearestPixels(false);
+    OpenGLRenderer::endRendering();
+}
+
+bool GuiRenderer::MayWait()
+{
+    return surface_ && getActiveRenderTarget() == &surface_->getRenderTarget();
+}
+
+void GuiRenderer::Wait(Draw draw, const float* vertices, const CEGUI::Vector3f& moved)
+{
+    const std::size_t first = vertices_.size();
+    draw.first = static_cast<int>(first);
+    draws_.push_back(draw);
+    vertices_.resize(first + static_cast<std::size_t>(draw.count));
+    // CEGUI's vertices are put together like ours.
+    std::memcpy(&vertices_[first], vertices, static_cast<std::size_t>(draw.count) * sizeof(SystemGl::Vertex));
+    for (auto vertex = vertices_.begin() + draw.first; vertex != vertices_.end(); ++vertex)
+    {
+        vertex->position[0] += moved.d_x;
+        vertex->position[1] += moved.d_y;
+        vertex->position[2] += moved.d_z;
+    }
+}
+
+void GuiRenderer::DrawWaiting()
+{
+    if (draws_.empty())
+    {
+        return;
+    }
+    setupRenderingBlendMode(CEGUI::BM_NORMAL);
+    SystemGl::ResetModelMatrix();
+    SystemGl::UseVertices(vertices_.data());
+    const float height = getActiveViewPort().getHeight();
+    bool cut = false;
+    SystemGl::EnableScissor(cut);
+    for (const Draw& draw : draws_)
+    {
+        ReadNearestPixels(draw.nearest);
+        if (draw.cut != cut)
+        {
+            cut = draw.cut;
+            SystemGl::EnableScissor(cut);
+        }
+        if (cut)
+        {
+            SystemGl::Scissor(static_cast<int>(draw.clip.left()), static_cast<int>(height - draw.clip.bottom()),
+                              static_cast<int>(draw.clip.getWidth()), static_cast<int>(draw.clip.getHeight()));
+        }
+        SystemGl::BindTexture(draw.texture);
+        SystemGl::DrawTriangles(draw.first, draw.count);
+    }
+    draws_.clear();
+    vertices_.clear();
+}
+
+void GuiRenderer::ReadNearestPixels(bool nearest)
+{
+    if (nearest != nearest_ && sampler_ != 0)
+    {
+        nearest_ = nearest;
+        extensions_->glBindSampler(0, nearest ? sampler_ : 0);
+    }
 }
 
 CEGUI::OpenGLGeometryBufferBase* GuiRenderer::createGeometryBuffer_impl()

@@ -2,9 +2,9 @@
 #include "Thumbnails.h"
 
 #include "../widgets/FailureLog.h"
+#include "../widgets/FileStamp.h"
 #include "../widgets/ImageEncoder.h"
 #include "../widgets/TextPicture.h"
-#include "FileStamp.h"
 
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/MultiLanguage.h>

@@ -74,11 +74,10 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
 void CeGuiMainFrame::DestroyTooltipWindow()
 {
     CEGUI::Window* root = RootWindow();
-    if (!root || !root->isChild(TooltipWindow))
+    if (!root || !root->isChild(TooltipWindow) || !MakeContextCurrent())
     {
         return;
     }
-    MakeContextCurrent();
     WindowNames::Destroy(*root->getChild(TooltipWindow));
     FileImagesets::Destroy(TooltipPictureFile);
 }

@@ -125,9 +125,37 @@ int CeGuiToolBar::AppendItem(const ToolBarItem& item)
 {
     items.push_back(item);
     WindowNames::AddChild(*window, *item.window);
-    // CEGUI does not hand the wheel on to the window below.
-    item.window->subscribeEvent(CEGUI::Window::EventMouseWheel, CEGUI::SubscriberSlot(&CeGuiToolBar::OnMouseWheel, this));
     return static_cast<int>(items.size()) - 1;
+}
+
+void CeGuiToolBar::SubscribeWheel(CEGUI::Window& item)
+{
+    // CEGUI does not hand the wheel on to the window below.
+    item.subscribeEvent(CEGUI::Window::EventMouseWheel, CEGUI::SubscriberSlot(&CeGuiToolBar::OnMouseWheel, this));
+}
+
+void CeGuiToolBar::SubscribeButton(CEGUI::Window& button)
+{
+    SubscribeWheel(button);
+    for (const auto& [eventName, handler] : itemEvents)
+    {
+        button.subscribeEvent(eventName, CEGUI::SubscriberSlot(handler));
+    }
+}
+
+void CeGuiToolBar::BeginButtons()
+{
+    addingButtons_ = true;
+    firstWithoutEvents_ = items.size();
+}
+
+void CeGuiToolBar::EndButtons()
+{
+    addingButtons_ = false;
+    for (std::size_t i = firstWithoutEvents_; i < items.size(); ++i)
+    {
+        SubscribeButton(*items[i].window);
+    }
 }
 
 int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString hoverFile, CString pushedFile, CString tooltip)
@@ -177,9 +205,9 @@ int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString h
     {
         item.window->hide();
     }
-    for (const auto& [eventName, handler] : itemEvents)
+    if (!addingButtons_)
     {
-        item.window->subscribeEvent(eventName, CEGUI::SubscriberSlot(handler));
+        SubscribeButton(*item.window);
     }
     UpdateContentExtent();
     return index;
@@ -221,6 +249,7 @@ int CeGuiToolBar::AddStaticImage(const RECT& place, CString itemName, CString im
     }
     PlaceStaticItem(item, place);
     const int index = AppendItem(item);
+    SubscribeWheel(*item.window);
     UpdateContentExtent();
     return index;
 }

@@ -63,6 +63,10 @@ public:
     /// @param hoverFile,pushedFile empty: the normal picture serves
     /// @return the item's index, or -1 when its window could not be made
     int AddImageButton(CString name, CString normalFile, CString hoverFile, CString pushedFile, CString tooltip);
+    /// Between these two, buttons are added without events, and get them at the end: CEGUI tells every item with events of each
+    /// further one.
+    void BeginButtons();
+    void EndButtons();
     /// Adds a picture at a rectangle in bar pixels. @return index or -1
     int AddStaticImage(const RECT& rect, CString name, CString imageFile);
     /// Adds a picture of a text, which is written to "NAME.bmp". @return index or -1
@@ -141,11 +145,15 @@ private:
     void PlaceWindow(const RECT& place, UINT parentWidth, UINT parentHeight);
     void NextItemPosition(float& x, float& y) const;
     int AppendItem(const ToolBarItem& item);
+    void SubscribeWheel(CEGUI::Window& item);
+    void SubscribeButton(CEGUI::Window& button);
     void PlaceStaticItem(ToolBarItem& item, const RECT& place) const;
     bool ScrollBy(float step);
     void MoveItems(float y);
     void MoveItemsWithThumb();
     ToolBarItem* ItemAt(int index);
+    std::size_t firstWithoutEvents_ = 0;
+    bool addingButtons_ = false;
     int Width() const { return rect.right - rect.left; }
     int Height() const { return rect.bottom - rect.top; }
 };

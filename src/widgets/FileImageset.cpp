@@ -2,9 +2,11 @@
 #include "FileImageset.h"
 
 #include "FailureLog.h"
+#include "FileStamp.h"
 #include "Names.h"
 
 #include <CEGUI/BasicImage.h>
+#include <CEGUI/DefaultResourceProvider.h>
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/PropertyHelper.h>
@@ -25,11 +27,16 @@ struct Imageset
 {
     CEGUI::BasicImage* image = nullptr;
     CEGUI::Texture* texture = nullptr;
+    FileStamp file; ///< from before it was read
     /// False between `Destroy` and the next `Create`: image and texture stay, since windows refer to them, but are blank.
     bool loaded = false;
 };
 
-std::map<CEGUI::String, Imageset, CEGUI::StringFastLessCompare> imagesets;
+using ImagesetMap = std::map<CEGUI::String, Imageset, CEGUI::StringFastLessCompare>;
+ImagesetMap imagesets;
+/// Without images.
+ImagesetMap left;
+int reuses = 0;
 
 CEGUI::Renderer& Renderer()
 {
@@ -44,14 +51,45 @@ void MakeBlank(Imageset& imageset)
     imageset.loaded = false;
 }
 
-Imageset& AddBlank(const CEGUI::String& name)
+FileStamp StampOfPicture(const CEGUI::String& name)
 {
+    auto* provider = static_cast<CEGUI::DefaultResourceProvider*>(CEGUI::System::getSingleton().getResourceProvider());
+    return StampOf(
+        TextOfName(provider->getResourceGroupDirectory(CEGUI::ImageManager::getImagesetDefaultResourceGroup()) + name));
+}
+
+void Show(Imageset& imageset)
+{
+    const CEGUI::Sizef& size = imageset.texture->getOriginalDataSize();
+    imageset.image->setArea(CEGUI::Rectf(0, 0, size.d_width, size.d_height));
+    imageset.loaded = true;
+}
+
+/// With a texture that was left of the same file, or with an empty one.
+Imageset& Add(const CEGUI::String& name)
+{
+    const auto former = left.find(name);
     Imageset imageset;
-    imageset.texture = &Renderer().createTexture(name);
+    if (former != left.end())
+    {
+        imageset = former->second;
+        left.erase(former);
+    }
+    else
+    {
+        imageset.texture = &Renderer().createTexture(name);
+    }
     imageset.image =
         static_cast<CEGUI::BasicImage*>(&CEGUI::ImageManager::getSingleton().create("BasicImage", name + "/" + FullImageName));
     imageset.image->setTexture(imageset.texture);
-    MakeBlank(imageset);
+    if (imageset.loaded && StampOfPicture(name) == imageset.file)
+    {
+        Show(imageset);
+    }
+    else
+    {
+        imageset.loaded = false;
+    }
     return imagesets[name] = imageset;
 }
 
@@ -59,10 +97,9 @@ void Load(Imageset& imageset, const CEGUI::String& name)
 {
     try
     {
+        imageset.file = StampOfPicture(name);
         imageset.texture->loadFromFile(name, CEGUI::ImageManager::getImagesetDefaultResourceGroup());
-        const CEGUI::Sizef& size = imageset.texture->getOriginalDataSize();
-        imageset.image->setArea(CEGUI::Rectf(0, 0, size.d_width, size.d_height));
-        imageset.loaded = true;
+        Show(imageset);
     }
     catch (const CEGUI::Exception& failure)
     {
@@ -89,8 +126,11 @@ CEGUI::Image& Create(const CString& file)
         throw CEGUI::AlreadyExistsException("an imageset named '" + name + "' is there already");
     }
     const auto known = imagesets.find(name);
-    Imageset& imageset = known != imagesets.end() ? known->second : AddBlank(name);
-    Load(imageset, name);
+    Imageset& imageset = known != imagesets.end() ? known->second : Add(name);
+    if (!imageset.loaded)
+    {
+        Load(imageset, name);
+    }
     return *imageset.image;
 }
 
@@ -153,6 +193,18 @@ void DestroyAllImagesets()
         const CEGUI::String name = image.getCurrentKey();
         textures.insert({name, name.substr(0, name.rfind('/'))});
     }
+    TextureReuse::DestroyLeft();
+    if (reuses > 0)
+    {
+        for (auto& [name, imageset] : imagesets)
+        {
+            if (imageset.loaded)
+            {
+                left[name] = imageset;
+                textures.erase(name);
+            }
+        }
+    }
     imagesets.clear();
     images.destroyAll();
     for (const CEGUI::String& texture : textures)
@@ -162,6 +214,26 @@ void DestroyAllImagesets()
             Renderer().destroyTexture(texture);
         }
     }
+}
+
+TextureReuse::TextureReuse()
+{
+    ++reuses;
+}
+
+TextureReuse::~TextureReuse()
+{
+    --reuses;
+    DestroyLeft();
+}
+
+void TextureReuse::DestroyLeft()
+{
+    for (const auto& [name, imageset] : left)
+    {
+        Renderer().destroyTexture(*imageset.texture);
+    }
+    left.clear();
 }
 
 bool IsSkinImagesetPresent(const CEGUI::String& name)

@@ -46,6 +46,20 @@ void DestroyFileImagesets();
 /// Every image of CEGUI, the skin's own included, with their textures.
 void DestroyAllImagesets();
 
+/// For the time between taking a frame away and building it again: what `DestroyAllImagesets` takes away leaves its textures for
+/// imagesets made of the same files, as long as these have not changed. What is left over goes with this object.
+class TextureReuse
+{
+public:
+    TextureReuse();
+    ~TextureReuse();
+    TextureReuse(const TextureReuse&) = delete;
+    TextureReuse& operator=(const TextureReuse&) = delete;
+
+    /// Destroys what was left until now: the renderer is about to go.
+    static void DestroyLeft();
+};
+
 /// Whether the skin's own imageset of this name ("TavLook") is loaded.
 bool IsSkinImagesetPresent(const CEGUI::String& name);
 

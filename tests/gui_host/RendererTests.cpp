@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is drawn with less work is the same picture.
 #include "support/HostedFrame.h"
+#include "support/NativeGl.h"
 #include "widgets/Pictures.h"
 
 #include <widgets/FileImageset.h>
@@ -98,6 +99,48 @@ TEST_F(Renderer, a_picture_that_is_made_larger_becomes_smooth)
     const Pixel middle = Host().Shoot().At(340, 240);
     EXPECT_GT(middle.red, 60);
     EXPECT_GT(middle.blue, 60);
+}
+
+TEST_F(Renderer, a_window_that_is_drawn_by_way_of_a_texture_of_its_own_keeps_its_place_among_the_others)
+{
+    CEGUI::Window& below = Show(Root(), "below", 300, 200, 80);
+    CEGUI::Window& between = Show(Root(), "between", 320, 200, 80);
+    between.setUsingAutoRenderingSurface(true);
+    CEGUI::Window& above = Show(Root(), "above", 340, 200, 80);
+    for (int frame = 0; frame < 3; ++frame)
+    {
+        const Screenshot shot = Host().Shoot();
+        EXPECT_TRUE(IsRed(shot.At(303, 240)));
+        EXPECT_TRUE(IsRed(shot.At(335, 240))) << "the middle window's left half, over the lowest one's right half";
+        EXPECT_TRUE(IsRed(shot.At(355, 240))) << "the uppermost window's left half";
+        EXPECT_TRUE(IsBlue(shot.At(415, 240)));
+    }
+    below.moveToFront();
+    above.moveToBack();
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(375, 240)));
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(395, 240))) << "the middle window, now above what was the uppermost one";
+}
+
+TEST_F(Renderer, windows_are_drawn_one_over_the_other_whether_cut_or_whole)
+{
+    CEGUI::Window& frame = Show(Root(), "frame", 300, 200, 40);
+    Show(frame, "cut", 30, 0, 20);
+    Show(frame, "whole", 24, 4, 12);
+    Show(Root(), "over both", 330, 200, 8);
+    const Screenshot shot = Host().Shoot();
+    EXPECT_TRUE(IsBlue(shot.At(334, 214))) << "the right half of the whole one";
+    EXPECT_TRUE(IsRed(shot.At(338, 218))) << "the left half of the cut one";
+    EXPECT_EQ(shot.At(342, 204), Background());
+    EXPECT_TRUE(IsRed(shot.At(331, 204)));
+    EXPECT_TRUE(IsBlue(shot.At(336, 204)));
+}
+
+TEST_F(Renderer, leaves_the_scene_to_read_its_textures_as_they_say)
+{
+    Show(Root(), "last", 400, 200, Side);
+    EXPECT_TRUE(IsBlue(Host().Shoot().At(404, 204)));
+    MakeCurrent();
+    EXPECT_EQ(NativeGl::BoundSampler(), 0);
 }
 
 TEST_F(Renderer, a_window_outside_its_parent_is_seen_when_it_comes_in_and_not_when_it_has_left)

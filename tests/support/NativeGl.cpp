@@ -15,6 +15,7 @@ NATIVE_GL(void, glDisable, (unsigned int capability));
 NATIVE_GL(void, glEnable, (unsigned int capability));
 NATIVE_GL(void, glGenTextures, (int count, unsigned int* names));
 NATIVE_GL(unsigned int, glGetError, ());
+NATIVE_GL(void, glGetIntegerv, (unsigned int name, int* values));
 NATIVE_GL(const unsigned char*, glGetString, (unsigned int name));
 NATIVE_GL(unsigned char, glIsTexture, (unsigned int name));
 NATIVE_GL(void, glReadPixels, (int x, int y, int width, int height, unsigned int format, unsigned int type, void* pixels));
@@ -52,6 +53,13 @@ int LiveTextures()
         count += native_glIsTexture(name) != 0;
     }
     return count;
+}
+
+int BoundSampler()
+{
+    int sampler = -1;
+    native_glGetIntegerv(0x8919 /* GL_SAMPLER_BINDING */, &sampler);
+    return sampler;
 }
 
 void RaiseError()

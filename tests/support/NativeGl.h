@@ -14,6 +14,8 @@ void ClearScreen(Pixel color);
 Pixel ReadPixel(int x, int y);
 /// How many textures there are in the current context.
 int LiveTextures();
+/// The sampler object of the active texture unit, 0 for none.
+int BoundSampler();
 /// Leaves the error "invalid enumerant" waiting.
 void RaiseError();
 /// Takes the error that waits; false when there is none.

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "GlobalEvents.h"
+
+#include <CEGUI/EventArgs.h>
+#include <CEGUI/Font.h>
+
+namespace
+{
+constexpr int Lists = 256;
+
+const CEGUI::String& FontSizes()
+{
+    static const CEGUI::String name = CEGUI::Font::EventNamespace + "/" + CEGUI::Font::EventRenderSizeChanged;
+    return name;
+}
+} // namespace
+
+GlobalEvents::GlobalEvents()
+{
+    for (int i = 0; i < Lists; ++i)
+    {
+        fontSizes_.emplace_back(FontSizes());
+    }
+}
+
+void GlobalEvents::fireEvent(const CEGUI::String& name, CEGUI::EventArgs& args, const CEGUI::String& eventNamespace)
+{
+    if (isMuted())
+    {
+        return;
+    }
+    if (name == CEGUI::Font::EventRenderSizeChanged && eventNamespace == CEGUI::Font::EventNamespace)
+    {
+        for (CEGUI::Event& list : fontSizes_)
+        {
+            list(args);
+        }
+        return;
+    }
+    if (d_events.empty())
+    {
+        return;
+    }
+    name_.assign(eventNamespace).append("/").append(name);
+    if (getEventObject(name_))
+    {
+        GlobalEventSet::fireEvent(name, args, eventNamespace);
+    }
+}
+
+CEGUI::Event::Connection GlobalEvents::subscribeEvent(const CEGUI::String& name, CEGUI::Event::Subscriber subscriber)
+{
+    if (name != FontSizes())
+    {
+        return GlobalEventSet::subscribeEvent(name, subscriber);
+    }
+    next_ = (next_ + 1) % fontSizes_.size();
+    return fontSizes_[next_].subscribe(subscriber);
+}

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// A size event builds every window anew, and reads those pictures again that have changed.
+#include "support/HostedFrame.h"
+#include "support/NativeGl.h"
+
+#include <CEGUI/EventArgs.h>
+#include <CEGUI/Font.h>
+#include <CEGUI/GlobalEventSet.h>
+#include <CEGUI/ImageManager.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Texture.h>
+
+#include <vector>
+
+namespace
+{
+const char* const Border = "new_skin/leftborder.png";
+
+class FrameRebuild : public HostedFrame
+{
+protected:
+    static CString Path(const char* file)
+    {
+        CString path = SkinDir() + CString(file);
+        path.Replace(L'/', L'\\');
+        return path;
+    }
+    static const CEGUI::Texture* TextureOf(const char* file)
+    {
+        CEGUI::Renderer& renderer = *CEGUI::System::getSingleton().getRenderer();
+        return renderer.isTextureDefined(file) ? &renderer.getTexture(file) : nullptr;
+    }
+    /// Where the left border alone is seen.
+    static Pixel Seen() { return Host().Shoot().At(1, 300); }
+};
+} // namespace
+
+TEST_F(FrameRebuild, a_size_event_keeps_the_textures_of_files_that_are_the_same)
+{
+    const CEGUI::Texture* before = TextureOf(Border);
+    ASSERT_NE(before, nullptr);
+    const Pixel seen = Seen();
+    Rebuild();
+    EXPECT_EQ(TextureOf(Border), before);
+    EXPECT_EQ(Seen(), seen);
+}
+
+TEST_F(FrameRebuild, a_picture_that_was_changed_is_read_again_also_when_it_has_the_same_length)
+{
+    const Pixel seen = Seen();
+    const std::vector<std::uint8_t> good = ReadBytes(Path(Border));
+    {
+        // Of the same length: the bytes behind a PNG file's end are nobody's.
+        std::vector<std::uint8_t> other = ReadBytes(Path("new_skin/closeH.png"));
+        std::vector<std::uint8_t> longer = good;
+        const std::size_t length = std::max(other.size(), longer.size());
+        other.resize(length);
+        longer.resize(length);
+        const FileReplaced first(Path(Border), longer);
+        Rebuild();
+        EXPECT_EQ(Seen(), seen);
+        const FileReplaced second(Path(Border), other);
+        Rebuild();
+        EXPECT_FALSE(Seen() == seen);
+    }
+    Rebuild();
+    EXPECT_EQ(Seen(), seen);
+}
+
+TEST_F(FrameRebuild, a_picture_that_is_gone_is_not_shown_from_memory)
+{
+    {
+        const FileTaken taken(Path(Border));
+        Rebuild();
+        EXPECT_EQ(TakeLog().size(), 1u);
+        EXPECT_EQ(Host().Find("TavTitleBackground"), nullptr);
+        EXPECT_EQ(TextureOf("new_skin/bottomborder.png"), nullptr) << "nothing is kept of a frame that failed";
+    }
+    Rebuild();
+    EXPECT_NE(TextureOf(Border), nullptr);
+}
+
+TEST_F(FrameRebuild, textures_that_the_new_frame_does_not_show_go)
+{
+    Rebuild();
+    MakeCurrent();
+    const int before = NativeGl::LiveTextures();
+    std::vector<BTN_UNIT> records(3);
+    for (std::size_t i = 0; i < records.size(); ++i)
+    {
+        records[i].lastText.Format(L"entry %d", static_cast<int>(i));
+    }
+    Frame().SetCtrlBtnInfo(records);
+    Rebuild();
+    MakeCurrent();
+    EXPECT_GT(NativeGl::LiveTextures(), before);
+    Frame().SetCtrlBtnInfo({});
+    Rebuild();
+    MakeCurrent();
+    EXPECT_EQ(NativeGl::LiveTextures(), before);
+}
+
+TEST_F(FrameRebuild, clearing_all_windows_leaves_no_texture_of_a_file)
+{
+    Frame().ClearAllWindows();
+    EXPECT_EQ(TextureOf(Border), nullptr);
+    Frame().CreateMainFrame();
+    EXPECT_NE(TextureOf(Border), nullptr);
+}
+
+TEST_F(FrameRebuild, the_log_says_nothing_of_a_size_event_that_succeeds)
+{
+    const std::size_t before = ReadBytes(L"CEGUI.log").size();
+    ASSERT_GT(before, 0u);
+    Rebuild();
+    Host().Frames(1);
+    EXPECT_EQ(ReadBytes(L"CEGUI.log").size(), before);
+}
+
+TEST_F(FrameRebuild, changed_sizes_of_fonts_reach_every_one_who_still_asks)
+{
+    constexpr int windows = 600;
+    std::vector<int> told(windows);
+    std::vector<CEGUI::Event::Connection> connections;
+    connections.reserve(windows);
+    CEGUI::GlobalEventSet& events = CEGUI::GlobalEventSet::getSingleton();
+    for (int& count : told)
+    {
+        const auto slot = [&count](const CEGUI::EventArgs&)
+        {
+            ++count;
+            return true;
+        };
+        connections.push_back(events.subscribeEvent("Font/RenderSizeChanged", CEGUI::SubscriberSlot(slot)));
+    }
+    CEGUI::EventArgs args;
+    const auto change = [&] { events.fireEvent(CEGUI::Font::EventRenderSizeChanged, args, CEGUI::Font::EventNamespace); };
+    events.setMutedState(true);
+    change();
+    EXPECT_EQ(told, std::vector<int>(windows, 0));
+    events.setMutedState(false);
+    change();
+    EXPECT_EQ(told, std::vector<int>(windows, 1));
+    for (int i = 0; i < windows; i += 2)
+    {
+        connections[static_cast<std::size_t>(i)]->disconnect();
+    }
+    change();
+    int seen[3] = {};
+    for (const int count : told)
+    {
+        ++seen[count];
+    }
+    EXPECT_EQ(seen[1], windows / 2);
+    EXPECT_EQ(seen[2], windows / 2);
+    for (int i = 1; i < windows; i += 2)
+    {
+        connections[static_cast<std::size_t>(i)]->disconnect();
+    }
+}
