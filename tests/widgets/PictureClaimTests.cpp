@@ -213,3 +213,118 @@ TEST(PictureClaim, png_file_claims_at_most_what_its_kind_of_pixel_leaves_room_fo
         EXPECT_FALSE(claims(row.pixels + 1, fileSize));
     }
 }
+
+namespace
+{
+/// A file of 1000 bytes that has only what it claims.
+class ClaimFile
+{
+public:
+    explicit ClaimFile(const std::string& signature) : bytes_(signature.begin(), signature.end()) { bytes_.resize(Size); }
+
+    ClaimFile& Put(std::size_t at, std::size_t count, std::uint32_t value)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            bytes_[at + i] = static_cast<std::uint8_t>(value >> 8 * i);
+        }
+        return *this;
+    }
+    ClaimFile& PutBig(std::size_t at, std::uint32_t value) { return Put(at, 1, value >> 8).Put(at + 1, 1, value); }
+    /// A picture's directory of a TIFF file.
+    ClaimFile& PutDirectory(std::size_t at, std::uint32_t width, std::uint32_t height, std::uint32_t next)
+    {
+        Put(at, 2, 2).Put(at + 2, 2, 256).Put(at + 4, 2, 4).Put(at + 10, 4, width);
+        return Put(at + 14, 2, 257).Put(at + 16, 2, 4).Put(at + 22, 4, height).Put(at + 26, 4, next);
+    }
+    bool IsBelieved() const { return ClaimsWhatItCanHold(bytes_.data(), bytes_.size()); }
+
+    static constexpr std::uint32_t Size = 1000;
+
+private:
+    std::vector<std::uint8_t> bytes_;
+};
+
+ClaimFile Bitmap(std::uint32_t width, std::uint32_t height)
+{
+    return ClaimFile("BM").Put(10, 4, 54).Put(14, 4, 40).Put(18, 4, width).Put(22, 4, height);
+}
+
+ClaimFile Gif(std::uint32_t width, std::uint32_t height)
+{
+    return ClaimFile("GIF89a").Put(6, 2, width).Put(8, 2, height);
+}
+
+/// @param before a marker without a length that stands before the frame's
+ClaimFile Jpeg(std::uint32_t width, std::uint32_t height, std::uint32_t frame = 0xC0, std::uint32_t before = 0xD8)
+{
+    return ClaimFile("\xFF\xD8\xFF")
+        .Put(3, 1, before)
+        .PutBig(4, 0xFF00 | frame)
+        .PutBig(6, 17)
+        .PutBig(9, height)
+        .PutBig(11, width);
+}
+
+ClaimFile Tiff(std::uint32_t width, std::uint32_t height)
+{
+    return ClaimFile("II*").Put(4, 4, 8).PutDirectory(8, width, height, 0);
+}
+} // namespace
+
+TEST(PictureClaim, file_of_any_kind_claims_at_most_what_it_leaves_room_for)
+{
+    const struct
+    {
+        const char* name;
+        ClaimFile (*file)(std::uint32_t width, std::uint32_t height);
+        std::uint32_t pixels; ///< for each byte of the file
+    } rows[] = {
+        {"bitmap", Bitmap, 128},
+        {"GIF", Gif, 4096},
+        {"JPEG", [](std::uint32_t width, std::uint32_t height) { return Jpeg(width, height); }, 512},
+        {"TIFF", Tiff, 8256},
+    };
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(row.name);
+        EXPECT_TRUE(row.file(row.pixels, ClaimFile::Size).IsBelieved());
+        EXPECT_TRUE(row.file(ClaimFile::Size, row.pixels).IsBelieved());
+        EXPECT_FALSE(row.file(row.pixels, ClaimFile::Size + 1).IsBelieved());
+        EXPECT_FALSE(row.file(row.pixels + 1, ClaimFile::Size).IsBelieved());
+        EXPECT_FALSE(row.file(row.pixels, 0).IsBelieved());
+        EXPECT_FALSE(row.file(0, row.pixels).IsBelieved());
+    }
+}
+
+TEST(PictureClaim, frame_of_a_jpeg_file_is_found_by_its_marker)
+{
+    for (std::uint32_t frame = 0xC0; frame <= 0xCF; ++frame)
+    {
+        // Tables, an extension, and arithmetic coding.
+        const bool other = frame == 0xC4 || frame == 0xC8 || frame == 0xCC;
+        EXPECT_EQ(Jpeg(16, 16, frame).IsBelieved(), !other) << frame;
+    }
+    for (const std::uint32_t alone : {0x01, 0xD0, 0xD3, 0xD7, 0xD8})
+    {
+        EXPECT_TRUE(Jpeg(16, 16, 0xC0, alone).IsBelieved()) << alone;
+    }
+    EXPECT_FALSE(Jpeg(16, 16, 0xC0, 0xE0).IsBelieved()) << "it has a length, which leads over the frame";
+}
+
+TEST(PictureClaim, pictures_of_a_tiff_file_count_together)
+{
+    // The second directory stands where its place reads like the tag of a width.
+    constexpr std::uint32_t second = 256;
+    const auto claims = [](std::uint32_t first, std::uint32_t width)
+    {
+        return ClaimFile("II*")
+            .Put(4, 4, 8)
+            .PutDirectory(8, first, ClaimFile::Size, second)
+            .PutDirectory(second, width, ClaimFile::Size, 0)
+            .IsBelieved();
+    };
+    EXPECT_TRUE(claims(4128, 4128));
+    EXPECT_FALSE(claims(4129, 4128));
+    EXPECT_FALSE(claims(4128, 4129));
+}
