@@ -102,6 +102,21 @@ TEST_F(PictureSharpness, stretched_in_one_direction_it_is_smooth)
     EXPECT_TRUE(IsMixed(36, 1, 8, 1));
 }
 
+TEST_F(PictureSharpness, stretched_it_is_smooth_with_another_texture_in_the_same_window)
+{
+    const wchar_t* const file = L"PictureSharpnessTest2.bmp";
+    const FileReplaced second(SkinDir() + file, ReadBytes(SkinDir() + SheetFile));
+    auto& other = dynamic_cast<CEGUI::BasicImage&>(FileImagesets::Create(file));
+    other.setArea(CEGUI::Rectf(0, 0, ShownSide, ShownSide));
+    Place(0, 0, 80, 80);
+    Host().Frames(1);
+    MakeCurrent();
+    other.render(window_->getGeometryBuffer(), CEGUI::Rectf(0, 0, ShownSide, ShownSide), nullptr,
+                 CEGUI::ColourRect(CEGUI::Colour(1, 1, 1)));
+    EXPECT_LE(Distance(Host().Shoot().At(Left + 5, Top + 1), {0, 0, 255}), 2);
+    EXPECT_TRUE(IsMixed(36, 60, 8, 1));
+}
+
 TEST_F(PictureSharpness, moved_by_a_part_of_a_pixel_it_is_smooth)
 {
     Place(0, 0.5f, ShownSide, ShownSide);
