@@ -169,6 +169,16 @@ TEST_F(PanelPictureTest, without_a_font_family_nothing_is_made)
     TakeLog();
 }
 
+TEST_F(PanelPictureTest, the_last_strip_reaches_into_the_list_by_a_single_pixel)
+{
+    Host().Resize(ViewWidth, 604);
+    Open(NumberedRows(3));
+    const PictureFile list = ReadPictureFile(ListFile());
+    ASSERT_EQ(list.height % RowHeight, 1);
+    EXPECT_NE(list.Argb(130, 0), 0u);
+    EXPECT_EQ(list.Argb(130, list.height - 1), list.Argb(130, 0));
+}
+
 TEST_F(PanelPictureTest, a_skin_without_a_type_of_window_leaves_a_line_and_no_panel)
 {
     CEGUI::WindowFactoryManager& types = CEGUI::WindowFactoryManager::getSingleton();

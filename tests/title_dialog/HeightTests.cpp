@@ -50,6 +50,20 @@ TEST_F(HeightTest, numbers_up_to_100_are_taken)
     }
 }
 
+TEST_F(HeightTest, the_last_good_value_is_selected_whole)
+{
+    Frame().ChangeTitleText(L"Title", 0xE1C8C5, Font, 22.5f);
+    OpenTitleEditDialog();
+    SetText(HeightEdit, L"abc");
+    Confirm();
+    ASSERT_EQ(Height(), "22.5");
+    DWORD first = 1;
+    DWORD end = 0;
+    SendMessageW(Control(HeightEdit), EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&end));
+    EXPECT_EQ(first, 0u);
+    EXPECT_EQ(end, 4u);
+}
+
 TEST_F(HeightTest, what_is_no_such_number_goes_back_and_leaves_the_dialog_open)
 {
     Frame().ChangeTitleText(L"Title", 0xE1C8C5, Font, 22.0f);
