@@ -7,6 +7,7 @@
 #include <widgets/TextPicture.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace
 {
@@ -128,6 +129,32 @@ TEST_F(TextPicture, text_starts_at_the_left_and_the_top)
     EXPECT_GT(box.right, 30);
     EXPECT_LT(box.right, 80);
     EXPECT_LT(box.bottom, 45);
+}
+
+TEST_F(TextPicture, text_is_drawn_from_the_corner_to_the_pixel)
+{
+    const PictureFile file = Draw(L"Hill, gravel");
+    ASSERT_FALSE(IsBlank(file));
+    const gp::Bitmap bitmap = gp::NewBitmap(file.width, file.height);
+    {
+        const gp::Graphics graphics = gp::GraphicsOf(bitmap.get());
+        gp::SetQuality(graphics.get(), gp::TextRenderingHintAntiAlias);
+        const gp::FontFamily family = gp::NewFontFamily(Latin);
+        const gp::Font font = gp::NewFont(family.get(), 40);
+        const gp::StringFormat format = gp::NewStringFormat();
+        const gp::SolidBrush brush = gp::NewSolidBrush(0xFFFF0000);
+        const gp::RectF place = {0, 0, static_cast<float>(file.width), static_cast<float>(file.height)};
+        gp::GdipDrawString(graphics.get(), L"Hill, gravel", -1, font.get(), &place, format.get(), brush.get());
+    }
+    int differing = 0;
+    for (int i = 0; i < file.width * file.height; ++i)
+    {
+        gp::ARGB expected = 0;
+        gp::GdipBitmapGetPixel(bitmap.get(), i % file.width, i / file.width, &expected);
+        const int alpha = static_cast<int>(file.Argb(i % file.width, i / file.width) >> 24);
+        differing += std::abs(alpha - static_cast<int>(expected >> 24)) > 2;
+    }
+    EXPECT_EQ(differing, 0);
 }
 
 TEST_F(TextPicture, font_height_is_in_pixels)
