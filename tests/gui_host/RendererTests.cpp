@@ -182,3 +182,34 @@ TEST_F(Renderer, events_of_all_windows_reach_who_asks_for_them)
     window.show();
     EXPECT_EQ(shown, 1);
 }
+
+TEST_F(Renderer, a_picture_a_hundredth_of_a_pixel_off_is_shown_as_it_stands)
+{
+    Argb picture = Solid(Side, Side, 0xFF000000);
+    for (int i = 0; i < Side * Side; ++i)
+    {
+        // A chequered one: whatever is mixed of neighbours is neither black nor white.
+        if ((i / Side + i % Side) % 2 == 0)
+        {
+            picture.pixels[static_cast<std::size_t>(i)] = 0xFFFFFFFF;
+        }
+    }
+    ASSERT_TRUE(WriteBytes(SkinDir() + File, Bmp32(picture)));
+    FileImagesets::Destroy(File);
+    image_ = &FileImagesets::Create(File);
+    CEGUI::Window& window = Show(Root(), "chequered", 300, 200, Side);
+    window.setPixelAligned(false);
+    window.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 300.01f), CEGUI::UDim(0, 200)));
+    const Screenshot shot = Host().Shoot();
+    for (int y = 0; y < Side; ++y)
+    {
+        for (int x = 0; x < Side; ++x)
+        {
+            const int level = (x + y) % 2 == 0 ? 255 : 0;
+            EXPECT_EQ(shot.At(300 + x, 200 + y), (Pixel{level, level, level})) << x << ", " << y;
+        }
+    }
+    // Two hundredths more are too much.
+    window.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 300.03f), CEGUI::UDim(0, 200)));
+    EXPECT_LT(Host().Shoot().At(304, 204).red, 255);
+}
