@@ -152,6 +152,15 @@ TEST_F(SelectionTest, survives_a_resize)
     EXPECT_TRUE(Host().TakeCodes().empty());
 }
 
+TEST_F(SelectionTest, of_the_first_entry_survives_a_resize)
+{
+    Frame().SetBtnIndex(0);
+    Host().Resize(900, 700);
+    EXPECT_EQ(Frame().GetBtnIndex(), 0);
+    ExpectPushed("a_P", 0);
+    ExpectAtRest("c_P", 2);
+}
+
 TEST_F(SelectionTest, a_resize_with_fewer_records_than_before_does_no_harm)
 {
     Frame().SetBtnIndex(4);
