@@ -20,6 +20,7 @@ constexpr int MovesPerSample = 240;
 std::vector<CPoint> PathOverList()
 {
     std::vector<CPoint> path;
+    path.reserve(MovesPerSample);
     for (int i = 0; i < MovesPerSample; ++i)
     {
         path.emplace_back(20 + i % 7 * 15, 60 + i * 13 % 600);
@@ -98,6 +99,7 @@ void CountAllocations(Stage& stage, Row& row)
     stage.Fill(100, 100);
     stage.Host().MoveMouse(600, 400);
     std::vector<CPoint> path;
+    path.reserve(moves);
     for (int i = 0; i < moves; ++i)
     {
         path.emplace_back(500 + i, 400 + i % 3);

@@ -239,6 +239,7 @@ Row PanelRow(Stage& stage)
     stage.Frame().MakeContextCurrent();
     const std::vector<int> sizes = {10, 100, 1000, 10000, 100000};
     std::vector<std::function<Duration()>> refreshes;
+    refreshes.reserve(sizes.size());
     for (const int size : sizes)
     {
         refreshes.push_back(

@@ -7,7 +7,8 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 mkdir -p "$1"
 prefix=$(cd "$1" && pwd)
-[ ! -e "$prefix/complete" ] || exit 0
+[ ! "$prefix/complete" -nt "$0" ] || exit 0
+rm -rf "$prefix/include"
 compiler=x86_64-w64-mingw32-g++-posix
 
 # Links, one by one: /usr/include as a whole would bring Linux's own headers.

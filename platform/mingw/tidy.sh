@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs clang-tidy 14 with .clang-tidy over the library, the services and the MFC subset, as Windows code: after
-# check.sh, whose headers it takes.
+# Runs clang-tidy 14 with .clang-tidy over the library, the services, the MFC subset and the example hosts, as Windows code:
+# after check.sh, whose headers it takes.
 #   tidy.sh [FOLDER [SOURCES...]]   (build-mingw, every source)
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
@@ -10,7 +10,7 @@ shift || true
 command -v clang-tidy-14 >/dev/null || { echo "tidy.sh: clang-tidy-14 is not installed" >&2; exit 1; }
 cd "$root"
 sources=("$@")
-[ $# -gt 0 ] || mapfile -t sources < <(find mfc services src -name '*.cpp' | sort)
+[ $# -gt 0 ] || mapfile -t sources < <(find examples/city_host mfc services src -name '*.cpp' | sort)
 # Each source by itself, and no precompiled headers, which clang cannot read.
 cmake -S "$root" -B "$build/tidy" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$root/platform/mingw/toolchain.cmake" \
     -DCMAKE_PREFIX_PATH="$build/prefix" -DNX_UNITY_BUILD=OFF -DNX_PRECOMPILED_HEADERS=OFF -DCMAKE_EXPORT_COMPILE_COMMANDS=ON \

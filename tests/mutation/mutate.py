@@ -8,12 +8,14 @@ results.tsv there: started again it goes on where it stopped, so a run may be cu
 
     tests/mutation/mutate.py [--count 160] [--seed 1] [--folder build-mutation] [--revision HEAD] [--only TEXT] [--list]
     tests/mutation/mutate.py --survivors     each survivor against every suite, and what is left
+    tests/mutation/mutate.py --again         each survivor against its own suites once more, with the working tree's tests
 """
 import argparse
 import os
 import pathlib
 import random
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -216,6 +218,7 @@ def main():
                         help="K/N: each Nth change from the Kth on, for runs side by side in folders of their own")
     parser.add_argument("--list", action="store_true", help="say what would be changed")
     parser.add_argument("--survivors", action="store_true", help="run every suite for each survivor")
+    parser.add_argument("--again", action="store_true", help="run the working tree's tests for each survivor")
     options = parser.parse_args()
     folder = options.folder.resolve()
     folder.mkdir(parents=True, exist_ok=True)
@@ -223,6 +226,9 @@ def main():
     results = read_results(results_file)
     workshop = Workshop(folder, options.revision)
     workshop.copy()
+    if options.again:
+        shutil.rmtree(workshop.tree / "tests")
+        shutil.copytree(ROOT / "tests", workshop.tree / "tests")
     changes = [c for c in choose(workshop.tree, options.count, options.seed) if options.only in key(c)]
     part, parts = map(int, options.part.split("/"))
     changes = changes[part - 1::parts]
@@ -232,9 +238,8 @@ def main():
     workshop.make()
     for change in changes:
         known = results.get(key(change))
-        if known is not None and not (options.survivors and known == "SURVIVED"):
-            continue
-        if options.survivors and known is None:
+        survivors = options.survivors or options.again
+        if survivors != (known == "SURVIVED") or (known is not None and not survivors):
             continue
         start = time.time()
         suites = EVERY_SUITE if options.survivors else suites_for(change[0])

@@ -77,7 +77,7 @@ public:
     }
 
 private:
-    struct Made
+    struct Made // NOLINT(bugprone-exception-escape): CEGUI's text has a move of its own, which may allocate
     {
         CEGUI::Window* window;
         CEGUI::String name;
