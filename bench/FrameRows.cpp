@@ -131,6 +131,39 @@ Row AgainstPeers(const std::string& name, const Bout& bout, const std::vector<Se
     row.note = "fastest peer: " + bout.NameOf(fastest);
     return row;
 }
+const std::vector<int> EntryCounts = {10, 100, 1000};
+
+/// The interface's frames by the number of entries in its list, by turns.
+std::map<int, Series> FramesByEntries(Stage& stage)
+{
+    constexpr int turns = 3;
+    constexpr int framesPerTurn = 12;
+    std::map<int, Series> series;
+    for (int turn = 0; turn < turns; ++turn)
+    {
+        for (const int count : EntryCounts)
+        {
+            stage.ShowEverything(count, UsualRows);
+            Bout bout(stage);
+            bout.Frame(Bout::Interface);
+            for (int i = 0; i < framesPerTurn; ++i)
+            {
+                series[count].Add(bout.Frame(Bout::Interface));
+            }
+        }
+    }
+    return series;
+}
+
+std::map<int, double> Growth(const std::map<int, Series>& series, double Duration::*clock)
+{
+    std::map<int, double> growth;
+    for (const auto& [count, one] : series)
+    {
+        growth[count] = one.Median(clock);
+    }
+    return growth;
+}
 } // namespace
 
 std::vector<Row> FrameRows(Stage& stage, const std::string& folder)
@@ -165,33 +198,15 @@ std::vector<Row> FrameRows(Stage& stage, const std::string& folder)
     CountAllocations(stage, bout, submitFloor);
     Row submitPeer = AgainstPeers("submit_peer", bout, series, 1.15, &Duration::thread);
     submitPeer.what = "the same against the fastest peer";
+    frameFloor.growth = Growth(FramesByEntries(stage), &Duration::process);
     return {frameFloor, framePeer, submitFloor, submitPeer};
 }
 
 Row SubmitGrowthRow(Stage& stage)
 {
-    constexpr int turns = 3;
-    constexpr int framesPerTurn = 12;
-    const std::vector<int> sizes = {10, 100, 1000};
-    std::map<int, Series> series;
-    for (int turn = 0; turn < turns; ++turn)
-    {
-        for (const int size : sizes)
-        {
-            stage.ShowEverything(size, UsualRows);
-            Bout bout(stage);
-            bout.Frame(Bout::Interface);
-            for (int i = 0; i < framesPerTurn; ++i)
-            {
-                series[size].Add(bout.Frame(Bout::Interface));
-            }
-        }
-    }
-    Row row = Compare("submit_growth", series[1000], series[10], 1.1, &Duration::thread);
+    const std::map<int, Series> series = FramesByEntries(stage);
+    Row row = Compare("submit_growth", series.at(1000), series.at(10), 1.1, &Duration::thread);
     row.what = "until the calls have returned, with a list of 1,000 entries; reference: of 10";
-    for (const int size : sizes)
-    {
-        row.growth[size] = series[size].Median(&Duration::thread);
-    }
+    row.growth = Growth(series, &Duration::thread);
     return row;
 }

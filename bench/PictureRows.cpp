@@ -169,7 +169,7 @@ void BareTitle(const CString& title, const CString& path, const CLSID& encoder, 
 
 Row ThumbnailRow(Stage& stage)
 {
-    constexpr int buttons = 20;
+    constexpr int usual = 20;
     const CString picture = stage.EntryPicture();
     int sample = 0;
     const auto captionOf = [&](int button)
@@ -178,7 +178,7 @@ Row ThumbnailRow(Stage& stage)
         caption.Format(L"View %d-%d", sample, button);
         return caption;
     };
-    const auto own = [&]
+    const auto own = [&](int buttons)
     {
         ++sample;
         return PerPiece(TimeOf(
@@ -201,18 +201,22 @@ Row ThumbnailRow(Stage& stage)
                             [&]
                             {
                                 BareThumbnails thumbnails;
-                                for (int i = 0; i < buttons; ++i)
+                                for (int i = 0; i < usual; ++i)
                                 {
                                     CString output;
                                     output.Format(L"%sbare%d", AppDir().GetString(), i);
                                     thumbnails.Make(captionOf(i), picture, i % 5 == 0, output);
                                 }
                             }),
-                        buttons);
+                        usual);
     };
-    const std::vector<Series> series = Alternate({own, bare});
+    const std::vector<Series> series = Alternate({[&] { return own(usual); }, bare});
     Row row = Compare("thumbnail_first", series[0], series[1], 1.2);
     row.what = "first composition of a button's two pictures, 20 buttons; reference: the GDI+ calls that it needs";
+    for (const int buttons : {10, 100, 1000})
+    {
+        row.growth[buttons] = own(buttons).process;
+    }
     return row;
 }
 

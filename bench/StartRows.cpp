@@ -110,6 +110,18 @@ std::vector<Row> StartRows(Stage& stage)
     std::vector<double> held;
     double textureBytes = 0;
     double resident = 0;
+    std::map<int, double> startGrowth;
+    std::map<int, double> memoryGrowth;
+    for (const int count : {10, 100, 1000})
+    {
+        stage.Frame().SetCtrlBtnInfo({});
+        const double closed = BytesHeld();
+        stage.Frame().SetCtrlBtnInfo(RecordsOf(count, stage.EntryPicture()));
+        startGrowth[count] = Start(stage).process;
+        stage.Fill(count, count);
+        memoryGrowth[count] = (BytesHeld() - closed) / 1024;
+        stage.Host().Close();
+    }
     const auto own = [&]
     {
         stage.Frame().SetCtrlBtnInfo({});
@@ -146,6 +158,7 @@ std::vector<Row> StartRows(Stage& stage)
     startup.what =
         "Init, frame built and drawn for the first time; reference: CEGUI alone with the scheme and the pictures, shown "
         "at the same places and drawn";
+    startup.growth = startGrowth;
     startup.extra["reference_without_a_frame"] = series[2].Median(&Duration::process);
 
     // Those of the rounds that warm up are left out.
@@ -160,6 +173,7 @@ std::vector<Row> StartRows(Stage& stage)
     memory.limit = 1.5;
     memory.rounds = static_cast<int>(held.size());
     memory.spread["measured"] = {Middle(held, 0.25) / 1024, Middle(held, 0.75) / 1024};
+    memory.growth = memoryGrowth;
     memory.extra["resident_growth_of_last_start"] = resident / 1024;
     stage.Host().Start(GUI_USER_FULL);
     return {startup, memory};

@@ -160,8 +160,8 @@ void CeGuiDrawable::Config()
 void CeGuiDrawable::InitResource()
 {
     CEGUI::SchemeManager::getSingleton().createFromFile(SchemeFile, "");
-    // From here to the end CEGUI would note every texture that it makes and takes away, hundreds with each size of the window, and
-    // what a user can mend would be lost among them.
+    // From here to the end CEGUI would note every texture that it makes and takes away, hundreds with each size of the window,
+    // and what a user can mend would be lost among them.
     CEGUI::Logger::getSingleton().setLoggingLevel(CEGUI::Warnings);
 }
 
