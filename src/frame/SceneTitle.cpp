@@ -54,7 +54,7 @@ CSize CeGuiMainFrame::SceneTitleSize() const
 {
     const CSize size = MeasureTextExtent(sceneTitleFontStyle_, static_cast<int>(sceneTitleFontHeight_), sceneTitle_);
     // An empty title keeps a place, and so does one in a font that is not there: another font then brings it back.
-    return size.cx > 0 && size.cy > 0 ? size : CSize(EmptyTitleSize);
+    return size.cy > 0 ? size : CSize(EmptyTitleSize);
 }
 
 void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)

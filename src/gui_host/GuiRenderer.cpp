@@ -107,14 +107,14 @@ private:
         {
             return;
         }
-        const auto [left, right] =
-            std::minmax_element(d_vertices.begin(), d_vertices.end(),
-                                [](const GLVertex& a, const GLVertex& b) { return a.position[0] < b.position[0]; });
-        const auto [top, bottom] =
-            std::minmax_element(d_vertices.begin(), d_vertices.end(),
-                                [](const GLVertex& a, const GLVertex& b) { return a.position[1] < b.position[1]; });
-        const CEGUI::Rectf place(left->position[0] + d_translation.d_x, top->position[1] + d_translation.d_y,
-                                 right->position[0] + d_translation.d_x, bottom->position[1] + d_translation.d_y);
+        CEGUI::Rectf place(d_vertices[0].position[0], d_vertices[0].position[1], d_vertices[0].position[0],
+                           d_vertices[0].position[1]);
+        for (const GLVertex& vertex : d_vertices)
+        {
+            place = CEGUI::Rectf(std::min(place.left(), vertex.position[0]), std::min(place.top(), vertex.position[1]),
+                                 std::max(place.right(), vertex.position[0]), std::max(place.bottom(), vertex.position[1]));
+        }
+        place.offset(CEGUI::Vector2f(d_translation.d_x, d_translation.d_y));
         // CEGUI cuts at whole pixels, on either side of the true edge.
         seen_ = place.right() >= d_clipRect.left() - 1 && place.left() <= d_clipRect.right() + 1 &&
                 place.bottom() >= d_clipRect.top() - 1 && place.top() <= d_clipRect.bottom() + 1 && d_clipRect.getWidth() > 0 &&

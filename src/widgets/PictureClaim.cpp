@@ -163,7 +163,7 @@ bool Tiff(const FileBytes& file)
     const auto u32 = [&](std::size_t at) { return big ? file.BigU32(at) : file.U32(at); };
     Claim claim;
     std::size_t at = u32(4);
-    for (int pictures = 0; at != 0 && at < file.Size(); ++pictures)
+    for (int pictures = 0; at != 0; ++pictures)
     {
         std::uint64_t width = 0;
         std::uint64_t height = 0;

@@ -109,15 +109,7 @@ bool CeGuiToolBar::ScrollBy(float step)
 {
     const float y = thumb->getYPosition().d_scale;
     const float end = 1 - thumb->getHeight().d_scale;
-    if (y + step < 0)
-    {
-        step = -y;
-    }
-    if (y + step > end)
-    {
-        step = end - y;
-    }
-    SetY(*thumb, y + step);
+    SetY(*thumb, std::min(end, std::max(0.0f, y + step)));
     MoveItemsWithThumb();
     return true;
 }

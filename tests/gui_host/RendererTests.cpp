@@ -8,6 +8,7 @@
 #include <widgets/WindowNames.h>
 
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/GeometryBuffer.h>
 #include <CEGUI/GlobalEventSet.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
@@ -212,4 +213,21 @@ TEST_F(Renderer, a_picture_a_hundredth_of_a_pixel_off_is_shown_as_it_stands)
     // Two hundredths more are too much.
     window.setPosition(CEGUI::UVector2(CEGUI::UDim(0, 300.03f), CEGUI::UDim(0, 200)));
     EXPECT_LT(Host().Shoot().At(304, 204).red, 255);
+}
+
+TEST_F(Renderer, a_picture_away_from_its_windows_corner_is_shown_as_it_stands)
+{
+    CEGUI::GUIContext& context = CEGUI::System::getSingleton().getDefaultGUIContext();
+    CEGUI::Renderer& renderer = *CEGUI::System::getSingleton().getRenderer();
+    CEGUI::GeometryBuffer& buffer = renderer.createGeometryBuffer();
+    image_->render(buffer, CEGUI::Vector2f(6, 6), nullptr, CEGUI::ColourRect(0xFFFFFFFF));
+    // At the border between red and blue a mixture of neighbours is neither.
+    buffer.setTranslation(CEGUI::Vector3f(300.01f, 200, 0));
+    buffer.setClippingRegion(CEGUI::Rectf(0, 0, ViewWidth, ViewHeight));
+    context.addGeometryBuffer(CEGUI::RQ_OVERLAY, buffer);
+    const Screenshot shot = Host().Shoot();
+    context.removeGeometryBuffer(CEGUI::RQ_OVERLAY, buffer);
+    renderer.destroyGeometryBuffer(buffer);
+    EXPECT_EQ(shot.At(309, 210), (Pixel{255, 0, 0}));
+    EXPECT_EQ(shot.At(310, 210), (Pixel{0, 0, 255}));
 }
