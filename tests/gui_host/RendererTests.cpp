@@ -10,6 +10,8 @@
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/GeometryBuffer.h>
 #include <CEGUI/GlobalEventSet.h>
+#include <CEGUI/Image.h>
+#include <CEGUI/Renderer.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
