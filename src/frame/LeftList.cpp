@@ -108,7 +108,7 @@ bool CeGuiMainFrame::ChangeLeftBtnState(int oldIndex, int newIndex, bool scrollT
     {
         return true;
     }
-    if (oldIndex >= 0)
+    if (oldIndex >= 0 && oldIndex < ControlButtonCount())
     {
         SetEntryPushed(*list, oldIndex, false);
     }
