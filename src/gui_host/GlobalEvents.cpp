@@ -25,20 +25,18 @@ GlobalEvents::GlobalEvents()
 
 void GlobalEvents::fireEvent(const CEGUI::String& name, CEGUI::EventArgs& args, const CEGUI::String& eventNamespace)
 {
-    if (isMuted())
+    // Every window tells of every window that is added beside it.
+    const bool ofFonts = eventNamespace == CEGUI::Font::EventNamespace && name == CEGUI::Font::EventRenderSizeChanged;
+    if (isMuted() || (d_events.empty() && !ofFonts))
     {
         return;
     }
-    if (name == CEGUI::Font::EventRenderSizeChanged && eventNamespace == CEGUI::Font::EventNamespace)
+    if (ofFonts)
     {
         for (CEGUI::Event& list : fontSizes_)
         {
             list(args);
         }
-        return;
-    }
-    if (d_events.empty())
-    {
         return;
     }
     name_.assign(eventNamespace).append("/").append(name);
