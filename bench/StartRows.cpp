@@ -107,7 +107,7 @@ Row MemoryRow(Stage& stage)
     constexpr int buttons = 100;
     constexpr int rows = 100;
     // The first ones fill what the process keeps for good.
-    constexpr int rounds = 5;
+    constexpr int rounds = 31;
     BytesHeldWith(stage, buttons, rows, 2);
     const double residentClosed = static_cast<double>(bench::ResidentBytes());
     const std::vector<double> held = BytesHeldWith(stage, buttons, rows, rounds);
