@@ -43,3 +43,9 @@ done
 printf '%s\n' "${sources[@]}" | xargs -P "${NX_JOBS:-$(nproc)}" -n 1 clang-tidy-14 -p "$build" --quiet "${winelib[@]}" \
     --extra-arg=-Wno-unknown-warning-option 2>/dev/null || { echo "tidy.sh: see above"; exit 1; }
 echo "${#sources[@]} sources pass .clang-tidy"
+[ $# -eq 0 ] || exit 0
+# The benchmark's peers are plain native code (bench/CMakeLists.txt).
+gui=$(find /usr/include -maxdepth 3 -type d -name 'cegui-0*' | head -n 1)
+printf '%s\n' bench/native/*.cpp | xargs -P "${NX_JOBS:-$(nproc)}" -I '{}' clang-tidy-14 --quiet '{}' -- -std=c++17 \
+    -isystem /usr/include/imgui -isystem /usr/include/MYGUI -isystem "$gui" 2>/dev/null || { echo "tidy.sh: see above"; exit 1; }
+echo "and so does bench/native"
