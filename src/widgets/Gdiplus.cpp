@@ -2,6 +2,7 @@
 #include "Gdiplus.h"
 
 #include "PictureClaim.h"
+#include "PngFile.h"
 
 #include <atlimage.h>
 
@@ -107,7 +108,7 @@ void FillExactly(GpBitmap* bitmap, ARGB color)
 Bitmap BitmapOf(const void* bytes, std::size_t size)
 {
     RequireGdiplus();
-    const auto stream = ClaimsWhatItCanHold(bytes, size) ? StreamOf(bytes, size) : nullptr;
+    const auto stream = ClaimsWhatItCanHold(bytes, size) && !IsDamagedPng(bytes, size) ? StreamOf(bytes, size) : nullptr;
     return stream ? Make<Bitmap>([&](GpBitmap** bitmap) { return GdipCreateBitmapFromStream(stream.get(), bitmap); }) : nullptr;
 }
 

@@ -5,6 +5,7 @@
 
 #include <spng.h>
 
+#include <cstring>
 #include <memory>
 
 namespace
@@ -30,4 +31,13 @@ bool ReadPngFile(const std::uint8_t* data, std::size_t size, RgbaPicture& pictur
     picture.pixels.resize(length);
     // A palette's and a colour key's transparency count, too.
     return spng_decode_image(context.get(), picture.pixels.data(), length, SPNG_FMT_RGBA8, SPNG_DECODE_TRNS) == 0;
+}
+
+bool IsDamagedPng(const void* data, std::size_t size)
+{
+    static const char signature[] = "\x89PNG\r\n\x1a\n";
+    constexpr std::size_t length = sizeof signature - 1;
+    RgbaPicture picture;
+    return size >= length && std::memcmp(data, signature, length) == 0 &&
+           !ReadPngFile(static_cast<const std::uint8_t*>(data), size, picture);
 }
