@@ -138,7 +138,13 @@ bool Jpeg(const FileBytes& file)
             claim.Add(file.BigU16(at + 7), file.BigU16(at + 5));
             break;
         }
-        at += 2 + (alone ? 0 : file.BigU16(at + 2));
+        const std::uint32_t length = alone ? 0 : file.BigU16(at + 2);
+        if (!alone && length < 2)
+        {
+            // A part counts these two bytes as well; there are decoders that subtract them and read on for 4 GB.
+            return false;
+        }
+        at += 2 + length;
     }
     return claim.Fits(file.Size(), Packed::Jpeg);
 }

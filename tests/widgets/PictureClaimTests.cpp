@@ -328,3 +328,13 @@ TEST(PictureClaim, pictures_of_a_tiff_file_count_together)
     EXPECT_FALSE(claims(4129, 4128));
     EXPECT_FALSE(claims(4128, 4129));
 }
+
+TEST(PictureClaim, part_of_a_jpeg_file_is_no_shorter_than_its_own_length)
+{
+    for (const std::uint8_t length : {0, 1, 2})
+    {
+        std::vector<std::uint8_t> file = {0xFF, 0xD8, 0xFF, 0xE0, 0, length, 0xFF, 0xC0, 0, 11, 8, 0, 8, 0, 8, 1, 1, 0x11, 0};
+        file.resize(200);
+        EXPECT_EQ(ClaimsWhatItCanHold(file.data(), file.size()), length == 2) << static_cast<int>(length);
+    }
+}
