@@ -19,12 +19,7 @@ const char* const Border = "new_skin/leftborder.png";
 class FrameRebuild : public HostedFrame
 {
 protected:
-    static CString Path(const char* file)
-    {
-        CString path = SkinDir() + CString(file);
-        path.Replace(L'/', L'\\');
-        return path;
-    }
+    static CString Path(const char* file) { return SkinDir() + CString(file); }
     static const CEGUI::Texture* TextureOf(const char* file)
     {
         CEGUI::Renderer& renderer = *CEGUI::System::getSingleton().getRenderer();
