@@ -29,6 +29,19 @@ int CALLBACK AddFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM nam
     return TRUE;
 }
 
+std::vector<CString> SystemFaces()
+{
+    std::vector<CString> names;
+    if (const HDC screen = GetDC(nullptr))
+    {
+        LOGFONTW wanted = {};
+        wanted.lfCharSet = GB2312_CHARSET;
+        EnumFontFamiliesExW(screen, &wanted, AddFace, reinterpret_cast<LPARAM>(&names), 0);
+        ReleaseDC(nullptr, screen);
+    }
+    return names;
+}
+
 struct CloseFind
 {
     using pointer = HANDLE;
@@ -56,20 +69,19 @@ void AddShxFiles(std::vector<CString>& names)
 
 std::vector<CString> InstalledFontNames()
 {
-    std::vector<CString> names;
-    if (const HDC screen = GetDC(nullptr))
-    {
-        LOGFONTW wanted = {};
-        wanted.lfCharSet = GB2312_CHARSET;
-        EnumFontFamiliesExW(screen, &wanted, AddFace, reinterpret_cast<LPARAM>(&names), 0);
-        ReleaseDC(nullptr, screen);
-    }
+    std::vector<CString> names = SystemFaces();
     AddShxFiles(names);
     return names;
 }
 
 bool IsFontInstalled(const CString& faceName)
 {
-    const std::vector<CString> names = InstalledFontNames();
-    return std::find(names.begin(), names.end(), faceName) != names.end();
+    std::vector<CString> names = SystemFaces();
+    const auto isAmongThem = [&] { return std::find(names.begin(), names.end(), faceName) != names.end(); };
+    if (isAmongThem())
+    {
+        return true;
+    }
+    AddShxFiles(names);
+    return isAmongThem();
 }
