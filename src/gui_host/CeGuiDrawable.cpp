@@ -8,6 +8,7 @@
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/GuiImageCodec.h"
+#include "../widgets/GuiLog.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "CeGuiEventHandler.h"
@@ -22,7 +23,6 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
-#include <CEGUI/Logger.h>
 #include <CEGUI/SchemeManager.h>
 #include <CEGUI/ScriptModule.h>
 #include <CEGUI/System.h>
@@ -130,6 +130,7 @@ void CeGuiDrawable::SetupCeGui()
     renderer.enableExtraStateSettings(true);
     resourceProvider_ = std::make_shared<SkinResourceProvider>();
     imageCodec_ = std::make_shared<GuiImageCodec>();
+    GuiLog::Begin(LogFile);
     system_ = &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", LogFile);
     renderer.DrawTogether(system_->getDefaultGUIContext());
     // CEGUI's end takes away whichever there is.
@@ -160,9 +161,7 @@ void CeGuiDrawable::Config()
 void CeGuiDrawable::InitResource()
 {
     CEGUI::SchemeManager::getSingleton().createFromFile(SchemeFile, "");
-    // From here to the end CEGUI would note every texture that it makes and takes away, hundreds with each size of the window,
-    // and what a user can mend would be lost among them.
-    CEGUI::Logger::getSingleton().setLoggingLevel(CEGUI::Warnings);
+    GuiLog::Quieten();
 }
 
 void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
@@ -200,7 +199,7 @@ void CeGuiDrawable::Finish()
         CEGUI::WindowManager::getSingleton().cleanDeadPool();
         FileImagesets::DestroyAllImagesets();
         FileImagesets::TextureReuse::DestroyLeft();
-        CEGUI::Logger::getSingleton().setLoggingLevel(CEGUI::Standard);
+        GuiLog::Reopen();
         CEGUI::System::destroy();
         system_ = nullptr;
         resourceProvider_.reset();
@@ -211,5 +210,6 @@ void CeGuiDrawable::Finish()
         renderer_->destroyAllTextures();
         CEGUI::OpenGLRenderer::destroy(*renderer_);
         renderer_ = nullptr;
+        GuiLog::End();
     }
 }

@@ -9,6 +9,7 @@
 #include <CEGUI/Font.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
+#include <CEGUI/Logger.h>
 #include <CEGUI/Scheme.h>
 #include <CEGUI/ScriptModule.h>
 #include <CEGUI/System.h>
@@ -21,6 +22,7 @@
 
 #include <cstring>
 #include <fstream>
+#include <vector>
 
 namespace
 {
@@ -39,6 +41,12 @@ protected:
         osg::RenderInfo info(&state, nullptr);
         drawable.drawImplementation(info);
         return BarPixel();
+    }
+
+    static std::string LogText()
+    {
+        std::ifstream log("CEGUI.log");
+        return std::string((std::istreambuf_iterator<char>(log)), {});
     }
 
     static Pixel BarPixel() { return NativeGl::ReadPixel(400, ViewHeight - 1 - 20); }
@@ -289,9 +297,48 @@ TEST_F(DrawableTest, skin_directory_is_the_default_group_of_everything_cegui_loa
 
 TEST_F(DrawableTest, cegui_logs_to_cegui_log_in_the_working_directory)
 {
-    std::ifstream log("CEGUI.log");
-    const std::string text((std::istreambuf_iterator<char>(log)), {});
+    const std::string text = LogText();
     EXPECT_NE(text.find("CEGUI::Logger singleton created."), std::string::npos);
     EXPECT_NE(text.find("OpenGLRenderer"), std::string::npos);
     EXPECT_NE(text.find("'TavLook"), std::string::npos) << "the skin's types";
+}
+
+TEST_F(DrawableTest, a_restart_begins_the_log_anew)
+{
+    Host().Close();
+    Host().Start(GUI_USER_FULL);
+    const std::string text = LogText();
+    const std::string banner = "CEGUI::Logger singleton created.";
+    ASSERT_NE(text.find(banner), std::string::npos);
+    EXPECT_EQ(text.find(banner), text.rfind(banner));
+    EXPECT_NE(text.find("'TavLook"), std::string::npos);
+}
+
+TEST_F(DrawableTest, the_end_of_cegui_is_in_the_log)
+{
+    Host().Close();
+    const std::string text = LogText();
+    EXPECT_NE(text.find("CEGUI System destruction completed"), std::string::npos);
+    Host().Start(GUI_USER_FULL);
+}
+
+TEST_F(DrawableTest, a_log_of_the_hosts_own_stays_ceguis_log)
+{
+    struct HostLog : CEGUI::Logger
+    {
+        void logEvent(const CEGUI::String& message, CEGUI::LoggingLevel) override { lines.push_back(message); }
+        void setLogFilename(const CEGUI::String&, bool) override {}
+        std::vector<CEGUI::String> lines;
+    };
+    Host().Close();
+    {
+        HostLog log;
+        Host().Start(GUI_USER_FULL);
+        EXPECT_EQ(CEGUI::Logger::getSingletonPtr(), &log);
+        EXPECT_FALSE(log.lines.empty());
+        Host().Close();
+        EXPECT_EQ(CEGUI::Logger::getSingletonPtr(), &log);
+    }
+    Host().Start(GUI_USER_FULL);
+    EXPECT_NE(CEGUI::Logger::getSingletonPtr(), nullptr);
 }
