@@ -179,7 +179,9 @@ std::vector<Row> StartRows(Stage& stage)
             });
         return duration;
     };
-    const std::vector<Series> series = Alternate({own, [&] { return bare(frame); }, [&] { return bare({}); }});
+    // Of short works that allocate much; they vary more than others.
+    constexpr int rounds = 101;
+    const std::vector<Series> series = Alternate({own, [&] { return bare(frame); }, [&] { return bare({}); }}, rounds);
     Row startup = Compare("startup", series[0], series[1], 1.3);
     startup.what =
         "Init, frame built and drawn for the first time; reference: CEGUI alone with the scheme and the pictures, shown "
