@@ -22,6 +22,7 @@ constexpr int ListTool = 1;
 constexpr int PropertyTool = 4;
 constexpr const wchar_t* LeftList = L"TavLeftCtrlFrame";
 constexpr const char* SkinImageset = "TavLook";
+constexpr const char* SkinImagesetFile = "TavLook.imageset"; ///< in the skin directory
 /// Why there is no frame without it; told in the log by whoever failed to load it.
 constexpr const char* NoSkinImageset = "imageset not loaded";
 } // namespace FrameNames

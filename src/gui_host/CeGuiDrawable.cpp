@@ -197,7 +197,7 @@ void CeGuiDrawable::Finish()
         CeGuiToolBar::ForgetAllWindows();
         CEGUI::WindowManager::getSingleton().destroyAllWindows();
         CEGUI::WindowManager::getSingleton().cleanDeadPool();
-        FileImagesets::DestroyAllImagesets();
+        FileImagesets::DestroyAllImagesets("");
         FileImagesets::TextureReuse::DestroyLeft();
         GuiLog::Reopen();
         CEGUI::System::destroy();

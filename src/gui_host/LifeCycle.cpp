@@ -29,7 +29,6 @@
 
 namespace
 {
-const char* const SkinImagesetFile = "TavLook.imageset";
 /// Holds the face that the title has where the wanted one is not there.
 const char* const TitleFontFile = "youyuan.ttf";
 const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
@@ -164,15 +163,22 @@ void CeGuiMainFrame::ClearAllWindows()
     system->removeAllEvents();
     CeGuiToolBar::ForgetAllWindows();
     CEGUI::WindowManager::getSingleton().destroyAllWindows();
-    FileImagesets::DestroyAllImagesets();
     SkinResourceProvider& skin = *static_cast<SkinResourceProvider*>(system->getResourceProvider());
+    const bool keepSkin = FileImagesets::TextureReuse::IsWanted() &&
+                          FileImagesets::IsSkinImagesetPresent(FrameNames::SkinImageset) && skin.IsImagesetUnchanged();
+    FileImagesets::DestroyAllImagesets(keepSkin ? FrameNames::SkinImageset : "");
+    if (keepSkin)
+    {
+        return;
+    }
     try
     {
-        CEGUI::ImageManager::getSingleton().loadImageset(SkinImagesetFile, "");
+        CEGUI::ImageManager::getSingleton().loadImageset(FrameNames::SkinImagesetFile, "");
         skin.RereadLooks();
     }
     catch (const CEGUI::Exception& failure)
     {
+        skin.ForgetImageset();
         // Without it there is no frame, but a host that only wants everything gone has what it wants.
         LogRaised("skin not loaded", skin.Naming(failure.getMessage()), FrameNames::NoSkinImageset);
     }

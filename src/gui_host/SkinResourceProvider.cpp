@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "SkinResourceProvider.h"
 
+#include "../frame/FrameNames.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/Names.h"
 
-#include "../../platform/NativePath.h"
 #include "SkinFileKind.h"
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/falagard/WidgetLookManager.h>
-
-#include <windows.h>
 
 #include <algorithm>
 #include <string_view>
@@ -18,29 +16,24 @@
 void SkinResourceProvider::loadRawDataContainer(const CEGUI::String& filename, CEGUI::RawDataContainer& output,
                                                 const CEGUI::String& resourceGroup)
 {
-    const CEGUI::String& group = resourceGroup.empty() ? getDefaultResourceGroup() : resourceGroup;
-    const auto directory = d_resourceGroups.find(group);
-    const CEGUI::String path = directory == d_resourceGroups.end() ? filename : directory->second + filename;
     lastFile_ = NameBytes(filename);
     lastXml_ = SkinFileKind::IsXml(lastFile_) ? lastFile_ : lastXml_;
-    const DWORD attributes = GetFileAttributesW(TextOfName(path));
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY))
+    GuiResourceProvider::loadRawDataContainer(filename, output, resourceGroup);
+    if (lastFile_ == FrameNames::SkinImagesetFile)
     {
-        // Some systems open a folder like a file, and give it a length that no memory has.
-        throw CEGUI::FileIOException("'" + filename + "' is a folder");
+        imageset_ = {LastRead()};
     }
-    // The base class joins a group's directory to the name; one group without a directory takes the whole path.
-    const std::string native = NativePath(TextOfName(path));
-    static const CEGUI::String WholePath = "whole path";
-    DefaultResourceProvider::loadRawDataContainer(CEGUI::String(reinterpret_cast<const CEGUI::utf8*>(native.c_str())), output,
-                                                  WholePath);
+    else if (imageset_.size() == 1)
+    {
+        imageset_.push_back(LastRead());
+    }
     const std::string_view bytes(reinterpret_cast<const char*>(output.getDataPtr()), output.getSize());
     const std::string mismatch = SkinFileKind::Mismatch(lastFile_, bytes);
     if (!mismatch.empty())
     {
         throw CEGUI::FileIOException("'" + filename + "' is another kind of file: " + mismatch);
     }
-    TranslateOldSkin(filename, group, output);
+    TranslateOldSkin(filename, resourceGroup.empty() ? getDefaultResourceGroup() : resourceGroup, output);
 }
 
 void SkinResourceProvider::RereadLooks()
@@ -51,6 +44,12 @@ void SkinResourceProvider::RereadLooks()
     {
         CEGUI::WidgetLookManager::getSingleton().parseLookNFeelSpecificationFromFile(file, group);
     }
+}
+
+bool SkinResourceProvider::IsImagesetUnchanged() const
+{
+    return imageset_.size() == 2 && std::all_of(imageset_.begin(), imageset_.end(),
+                                                [](const FileStamp& file) { return StampOfNative(file.path) == file; });
 }
 
 std::string SkinResourceProvider::Naming(const CEGUI::String& message) const

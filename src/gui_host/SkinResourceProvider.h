@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "OldSkin.h"
+#include "../widgets/GuiResourceProvider.h"
 
-#include <CEGUI/DefaultResourceProvider.h>
+#include "OldSkin.h"
 
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
-/// CEGUI's default provider, which takes files of a resource group by Win32 paths and by names in the narrow form that the
-/// interface's names have, and hands on the files of skins for CEGUI 0.6 in 0.8's formats. Any other file is handed on as it
-/// is. What is left out of an old file is a line each in the log, once.
-class SkinResourceProvider : public CEGUI::DefaultResourceProvider
+/// Hands on the files of skins for CEGUI 0.6 in 0.8's formats, and any other file as it is. What is left out of an old file is
+/// a line each in the log, once.
+class SkinResourceProvider : public GuiResourceProvider
 {
 public:
     void loadRawDataContainer(const CEGUI::String& filename, CEGUI::RawDataContainer& output,
@@ -21,6 +21,11 @@ public:
     /// Has CEGUI read the old looks again that name pictures of the skin's imageset. A look keeps hold of such a picture, so
     /// this is due when the imageset has been made anew. Needs every window gone.
     void RereadLooks();
+
+    /// Whether the files of the skin's imageset, its picture's among them, are as they were when it was loaded.
+    bool IsImagesetUnchanged() const;
+    /// It has been loaded in part only.
+    void ForgetImageset() { imageset_.clear(); }
 
     /// An exception's message with the file that it is about, unless it names it: the parser tells the line alone.
     std::string Naming(const CEGUI::String& message) const;
@@ -32,6 +37,8 @@ private:
     /// The files that were asked for last, of any kind and of XML.
     std::string lastFile_;
     std::string lastXml_;
+    /// Of the skin's imageset and then of its picture, which is read while the imageset is being parsed.
+    std::vector<FileStamp> imageset_;
     /// Some files are read with every size of the window.
     std::set<std::string> told_;
     /// File and group.

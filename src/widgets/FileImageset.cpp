@@ -2,11 +2,10 @@
 #include "FileImageset.h"
 
 #include "FailureLog.h"
-#include "FileStamp.h"
+#include "GuiResourceProvider.h"
 #include "Names.h"
 
 #include <CEGUI/BasicImage.h>
-#include <CEGUI/DefaultResourceProvider.h>
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/PropertyHelper.h>
@@ -18,6 +17,7 @@
 #include <cstdint>
 #include <map>
 #include <set>
+#include <vector>
 
 namespace
 {
@@ -51,11 +51,14 @@ void MakeBlank(Imageset& imageset)
     imageset.loaded = false;
 }
 
-FileStamp StampOfPicture(const CEGUI::String& name)
+const GuiResourceProvider& Files()
 {
-    auto* provider = static_cast<CEGUI::DefaultResourceProvider*>(CEGUI::System::getSingleton().getResourceProvider());
-    return StampOf(
-        TextOfName(provider->getResourceGroupDirectory(CEGUI::ImageManager::getImagesetDefaultResourceGroup()) + name));
+    return *static_cast<GuiResourceProvider*>(CEGUI::System::getSingleton().getResourceProvider());
+}
+
+const CEGUI::String& Group()
+{
+    return CEGUI::ImageManager::getImagesetDefaultResourceGroup();
 }
 
 void Show(Imageset& imageset)
@@ -82,7 +85,7 @@ Imageset& Add(const CEGUI::String& name)
     imageset.image =
         static_cast<CEGUI::BasicImage*>(&CEGUI::ImageManager::getSingleton().create("BasicImage", name + "/" + FullImageName));
     imageset.image->setTexture(imageset.texture);
-    if (imageset.loaded && StampOfPicture(name) == imageset.file)
+    if (imageset.loaded && Files().Stamp(name, Group()) == imageset.file)
     {
         Show(imageset);
     }
@@ -97,8 +100,8 @@ void Load(Imageset& imageset, const CEGUI::String& name)
 {
     try
     {
-        imageset.file = StampOfPicture(name);
-        imageset.texture->loadFromFile(name, CEGUI::ImageManager::getImagesetDefaultResourceGroup());
+        imageset.texture->loadFromFile(name, Group());
+        imageset.file = Files().LastRead();
         Show(imageset);
     }
     catch (const CEGUI::Exception& failure)
@@ -182,19 +185,25 @@ void DestroyFileImagesets()
     }
 }
 
-void DestroyAllImagesets()
+void DestroyAllImagesets(const CEGUI::String& kept)
 {
     // Not every texture of the renderer: fonts hold some. An imageset's is called like the imageset, which its images' names
     // begin with, or like its only image.
     std::set<CEGUI::String> textures;
+    std::vector<CEGUI::String> gone;
     CEGUI::ImageManager& images = CEGUI::ImageManager::getSingleton();
     for (CEGUI::ImageManager::ImageIterator image = images.getIterator(); !image.isAtEnd(); ++image)
     {
         const CEGUI::String name = image.getCurrentKey();
-        textures.insert({name, name.substr(0, name.rfind('/'))});
+        const CEGUI::String imageset = name.substr(0, name.rfind('/'));
+        if (imageset != kept)
+        {
+            gone.push_back(name);
+            textures.insert({name, imageset});
+        }
     }
     TextureReuse::DestroyLeft();
-    if (reuses > 0)
+    if (TextureReuse::IsWanted())
     {
         for (auto& [name, imageset] : imagesets)
         {
@@ -206,7 +215,10 @@ void DestroyAllImagesets()
         }
     }
     imagesets.clear();
-    images.destroyAll();
+    for (const CEGUI::String& image : gone)
+    {
+        images.destroy(image);
+    }
     for (const CEGUI::String& texture : textures)
     {
         if (Renderer().isTextureDefined(texture))
@@ -225,6 +237,11 @@ TextureReuse::~TextureReuse()
 {
     --reuses;
     DestroyLeft();
+}
+
+bool TextureReuse::IsWanted()
+{
+    return reuses > 0;
 }
 
 void TextureReuse::DestroyLeft()

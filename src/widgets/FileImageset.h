@@ -43,8 +43,9 @@ void DestroyNamed(const CEGUI::String& name);
 /// Every file imageset, as by `Destroy`.
 void DestroyFileImagesets();
 
-/// Every image of CEGUI, the skin's own included, with their textures.
-void DestroyAllImagesets();
+/// Every image of CEGUI with its texture, the skin's own included.
+/// @param kept the name of an imageset that stays
+void DestroyAllImagesets(const CEGUI::String& kept);
 
 /// For the time between taking a frame away and building it again: what `DestroyAllImagesets` takes away leaves its textures for
 /// imagesets made of the same files, as long as these have not changed. What is left over goes with this object.
@@ -56,6 +57,8 @@ public:
     TextureReuse(const TextureReuse&) = delete;
     TextureReuse& operator=(const TextureReuse&) = delete;
 
+    /// Whether there is such an object.
+    static bool IsWanted();
     /// Destroys what was left until now: the renderer is about to go.
     static void DestroyLeft();
 };

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "../../platform/NativeFile.h"
+
 #include <atlstr.h>
 
-#include <cstdint>
+#include <string>
 
 /// By what a file is known to be unchanged.
 struct FileStamp
 {
-    CString path;
-    std::uint64_t size = 0;
-    std::uint64_t written = 0; ///< FILETIME, 100 ns; 0 when there is no such file
+    std::string path; ///< a native one
+    NativeFile file;
 };
 
 FileStamp StampOf(const CString& path);
+/// @param path as `NativePath` makes it
+FileStamp StampOfNative(const std::string& path);
 bool operator==(const FileStamp& a, const FileStamp& b);

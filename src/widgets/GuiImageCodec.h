@@ -5,7 +5,7 @@
 
 #include <CEGUI/ImageCodec.h>
 
-/// Decodes a picture file's bytes: 32-bit bitmap files with their alpha, everything else through GDI+.
+/// Decodes a picture file's bytes: 32-bit bitmap files with their alpha, PNG files by libspng, everything else through GDI+.
 /// @return false when they are no picture that can be read, or one with a side of more than 32768 pixels, and through GDI+ for
 ///     more than 64 M pixels or more than a file of this size can hold
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture);

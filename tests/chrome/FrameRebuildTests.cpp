@@ -3,18 +3,27 @@
 #include "support/HostedFrame.h"
 #include "support/NativeGl.h"
 
+#include <widgets/FileImageset.h>
+
+#include <KernelCommonUse/StringConvert.h>
+
 #include <CEGUI/EventArgs.h>
+#include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
 #include <CEGUI/GlobalEventSet.h>
+#include <CEGUI/Image.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Texture.h>
 
+#include <cstdint>
+#include <string>
 #include <vector>
 
 namespace
 {
 const char* const Border = "new_skin/leftborder.png";
+const char* const Skin = "TavLook";
 
 class FrameRebuild : public HostedFrame
 {
@@ -25,6 +34,20 @@ protected:
         CEGUI::Renderer& renderer = *CEGUI::System::getSingleton().getRenderer();
         return renderer.isTextureDefined(file) ? &renderer.getTexture(file) : nullptr;
     }
+    /// Gives the skin's own picture another size, until it is read from its file again.
+    static void MarkSkin()
+    {
+        MakeCurrent();
+        const std::uint32_t pixel = 0;
+        CEGUI::System::getSingleton().getRenderer()->getTexture(Skin).loadFromMemory(&pixel, CEGUI::Sizef(1, 1),
+                                                                                     CEGUI::Texture::PF_RGBA);
+    }
+    static bool IsSkinMarked()
+    {
+        const CEGUI::Texture* texture = TextureOf(Skin);
+        return texture && texture->getOriginalDataSize() == CEGUI::Sizef(1, 1);
+    }
+    static CEGUI::Sizef SizeOf(const char* image) { return CEGUI::ImageManager::getSingleton().get(image).getRenderedSize(); }
     /// Where the left border alone is seen.
     static Pixel Seen() { return Host().Shoot().At(1, 300); }
 };
@@ -101,6 +124,86 @@ TEST_F(FrameRebuild, clearing_all_windows_leaves_no_texture_of_a_file)
     EXPECT_EQ(TextureOf(Border), nullptr);
     Frame().CreateMainFrame();
     EXPECT_NE(TextureOf(Border), nullptr);
+}
+
+TEST_F(FrameRebuild, a_size_event_keeps_the_skins_own_imageset_while_its_files_are_the_same)
+{
+    MarkSkin();
+    Rebuild();
+    EXPECT_TRUE(IsSkinMarked());
+    EXPECT_NE(Host().Find("TavTitleBackground"), nullptr);
+    Frame().ClearAllWindows();
+    EXPECT_FALSE(IsSkinMarked()) << "without a size event everything is read again";
+    Frame().CreateMainFrame();
+}
+
+TEST_F(FrameRebuild, the_skins_own_imageset_is_read_again_when_its_picture_has_changed)
+{
+    MarkSkin();
+    {
+        const FileReplaced picture(Path("TavLook.png"), ReadBytes(Path(Border)));
+        Rebuild();
+        EXPECT_FALSE(IsSkinMarked());
+        MarkSkin();
+    }
+    Rebuild();
+    EXPECT_FALSE(IsSkinMarked());
+}
+
+TEST_F(FrameRebuild, the_skins_own_imageset_is_read_again_when_its_description_has_changed)
+{
+    const CEGUI::Sizef size = SizeOf("TavLook/White");
+    const std::vector<std::uint8_t> bytes = ReadBytes(Path("TavLook.imageset"));
+    std::string text(bytes.begin(), bytes.end());
+    const std::size_t white = text.find("White");
+    ASSERT_NE(white, std::string::npos);
+    const std::size_t width = text.find("width=\"", white);
+    ASSERT_NE(width, std::string::npos);
+    text.insert(width + 7, "1");
+    {
+        const FileReplaced description(Path("TavLook.imageset"), {text.begin(), text.end()});
+        Rebuild();
+        EXPECT_GT(SizeOf("TavLook/White").d_width, size.d_width);
+    }
+    Rebuild();
+    EXPECT_EQ(SizeOf("TavLook/White"), size);
+}
+
+TEST_F(FrameRebuild, an_imageset_that_was_read_in_part_is_read_again_with_the_next_size)
+{
+    const std::vector<std::uint8_t> bytes = ReadBytes(Path("TavLook.imageset"));
+    const std::string text(bytes.begin(), bytes.end());
+    const std::string part = text.substr(0, text.find("White")) + "\n";
+    {
+        const FileReplaced description(Path("TavLook.imageset"), {part.begin(), part.end()});
+        Rebuild();
+        EXPECT_GE(TakeLog().size(), 1u);
+        Rebuild();
+        EXPECT_GE(TakeLog().size(), 1u);
+    }
+    Rebuild();
+    EXPECT_TRUE(TakeLog().empty());
+    EXPECT_NE(Host().Find("TavTitleBackground"), nullptr);
+}
+
+TEST_F(FrameRebuild, pictures_are_found_in_any_spelling_of_their_names)
+{
+    // Right, wrong and right again in one folder.
+    const FileReplaced one(Path("spelling.png"), ReadBytes(Path(Border)));
+    const FileReplaced other(Path("another.png"), ReadBytes(Path(Border)));
+    MakeCurrent();
+    for (const wchar_t* name : {L"spelling.png", L"SPELLING.PNG", L"another.png", L"Another.png", L"NEW_SKIN/LeftBorder.png",
+                                L"new_skin/./leftborder.png"})
+    {
+        EXPECT_EQ(FileImagesets::Create(name).getRenderedSize(), SizeOf("new_skin/leftborder.png/full_image"))
+            << CString2string(name);
+    }
+    // A file of the same name lies in the folder that the last one came from.
+    const FileReplaced namesake(Path("leftborder.png"), ReadBytes(Path("TavLook.png")));
+    EXPECT_EQ(FileImagesets::Create(L"leftborder.png").getRenderedSize(), CEGUI::Sizef(64, 64));
+    EXPECT_THROW(FileImagesets::Create(L"nowhere.png"), CEGUI::Exception);
+    TakeLog();
+    Rebuild();
 }
 
 TEST_F(FrameRebuild, the_log_says_nothing_of_a_size_event_that_succeeds)

@@ -26,9 +26,10 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 SUITES = {
     "src/widgets/": ["Widget", "Chrome", "Frame", "Panel"],
     "src/widgets/BmpFile": ["Widget", "Panel", "ControlButton"],
-    "src/widgets/FileStamp": ["ControlButton", "Panel"],
+    "src/widgets/FileStamp": ["ControlButton", "Panel", "Chrome"],
     "src/widgets/Gdiplus": ["Widget", "ControlButton", "Panel", "StartPage"],
     "src/widgets/GuiImageCodec": ["Widget", "GuiHost", "Chrome"],
+    "src/widgets/GuiResourceProvider": ["GuiHost", "Chrome"],
     "src/widgets/ImageEncoder": ["Widget", "Panel", "StartPage"],
     "src/widgets/Text": ["Widget", "Panel", "Frame"],
     "src/panels/": ["Panel", "Frame"],

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "../NativeFile.h"
+
+#include <sys/stat.h>
+
+NativeFile LookAtNativeFile(const std::string& path)
+{
+    NativeFile file;
+    struct stat state = {};
+    // One call of the system, where Win32's own question goes through all of Wine's search again.
+    if (stat(path.c_str(), &state) == 0)
+    {
+        file.folder = S_ISDIR(state.st_mode);
+        file.size = file.folder ? 0 : static_cast<std::uint64_t>(state.st_size);
+        file.written = std::int64_t(state.st_mtim.tv_sec) * 1000000000 + state.st_mtim.tv_nsec;
+    }
+    return file;
+}
