@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuiLog.h"
 
-#include <ctime>
 #include <memory>
 
 namespace
@@ -45,9 +44,12 @@ void GuiLog::logEvent(const CEGUI::String& message, CEGUI::LoggingLevel level)
         return;
     }
     const std::time_t now = std::time(nullptr);
-    char begin[64] = "";
-    std::strftime(begin, sizeof begin, "%d/%m/%Y %H:%M:%S (Std) \t", std::localtime(&now));
-    d_ostream << begin << message.c_str() << '\n';
+    if (now != second_)
+    {
+        second_ = now;
+        std::strftime(begin_, sizeof begin_, "%d/%m/%Y %H:%M:%S (Std) \t", std::localtime(&now));
+    }
+    d_ostream << begin_ << message.c_str() << '\n';
 }
 
 void GuiLog::setLogFilename(const CEGUI::String&, bool)

@@ -3,6 +3,8 @@
 
 #include <CEGUI/DefaultLogger.h>
 
+#include <ctime>
+
 /// CEGUI's log file, for which CEGUI's start is no longer than it has to be: its hundreds of notes go to the file together, as
 /// do those of its end. Warnings and errors are in the file when `logEvent` returns, with all that came before them.
 class GuiLog : public CEGUI::DefaultLogger
@@ -21,4 +23,9 @@ public:
 
     void logEvent(const CEGUI::String& message, CEGUI::LoggingLevel level) override;
     void setLogFilename(const CEGUI::String& file, bool append) override;
+
+private:
+    /// What the lines of a second begin with.
+    char begin_[64] = "";
+    std::time_t second_ = -1;
 };
