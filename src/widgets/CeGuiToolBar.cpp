@@ -124,7 +124,14 @@ void CeGuiToolBar::NextItemPosition(float& x, float& y) const
 int CeGuiToolBar::AppendItem(const ToolBarItem& item)
 {
     items.push_back(item);
-    WindowNames::AddChild(*window, *item.window);
+    if (addingButtons_)
+    {
+        WindowNames::AddChild(*window, *item.window, siblings_);
+    }
+    else
+    {
+        WindowNames::AddChild(*window, *item.window);
+    }
     return static_cast<int>(items.size()) - 1;
 }
 
@@ -147,11 +154,13 @@ void CeGuiToolBar::BeginButtons()
 {
     addingButtons_ = true;
     firstWithoutEvents_ = items.size();
+    siblings_ = window ? WindowNames::SiblingsIn(*window) : WindowNames::Siblings();
 }
 
 void CeGuiToolBar::EndButtons()
 {
     addingButtons_ = false;
+    siblings_.clear();
     for (std::size_t i = firstWithoutEvents_; i < items.size(); ++i)
     {
         SubscribeButton(*items[i].window);

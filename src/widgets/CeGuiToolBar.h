@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "WindowNames.h"
+
 #include <CEGUI/EventArgs.h>
 #include <CEGUI/String.h>
 #include <CEGUI/SubscriberSlot.h>
@@ -154,6 +156,7 @@ private:
     ToolBarItem* ItemAt(int index);
     std::size_t firstWithoutEvents_ = 0;
     bool addingButtons_ = false;
+    WindowNames::Siblings siblings_; ///< between `BeginButtons` and `EndButtons`
     int Width() const { return rect.right - rect.left; }
     int Height() const { return rect.bottom - rect.top; }
 };

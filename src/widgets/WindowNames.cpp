@@ -48,6 +48,25 @@ void AddChild(CEGUI::Window& parent, CEGUI::Window& child)
     parent.addChild(&child);
 }
 
+Siblings SiblingsIn(const CEGUI::Window& parent)
+{
+    Siblings names;
+    for (std::size_t i = 0; i < parent.getChildCount(); ++i)
+    {
+        names.insert(parent.getChildAtIdx(i)->getName());
+    }
+    return names;
+}
+
+void AddChild(CEGUI::Window& parent, CEGUI::Window& child, Siblings& siblings)
+{
+    while (!siblings.insert(child.getName()).second)
+    {
+        Rename(child);
+    }
+    parent.addChild(&child);
+}
+
 const CEGUI::String& Of(const CEGUI::Window& window)
 {
     return window.isUserStringDefined(GivenName) ? window.getUserString(GivenName) : window.getName();

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <CEGUI/String.h>
+
+#include <set>
+
 namespace CEGUI
 {
-class String;
 class Window;
-} // namespace CEGUI
+}
 
 /// Windows by name. Names come from hosts' records, so several windows may carry the same one, and it may hold the "/" that
 /// parts CEGUI's look-up paths, or be empty. CEGUI wants names of its own choosing unique among siblings; a window whose name
@@ -18,6 +21,13 @@ CEGUI::Window* Create(const char* type, const CEGUI::String& name);
 
 /// Adds a window that `Create` made to a parent, whatever names the parent's children have.
 void AddChild(CEGUI::Window& parent, CEGUI::Window& child);
+
+/// The names that a window's children have among them. Each child that is added looks through all of them; who adds many
+/// looks here instead.
+using Siblings = std::set<CEGUI::String, CEGUI::StringFastLessCompare>;
+Siblings SiblingsIn(const CEGUI::Window& parent);
+/// @param siblings `SiblingsIn(parent)`, with what has been added since; the child's name joins them
+void AddChild(CEGUI::Window& parent, CEGUI::Window& child, Siblings& siblings);
 
 /// The name that the window was made under.
 const CEGUI::String& Of(const CEGUI::Window& window);
