@@ -123,6 +123,17 @@ constexpr Skin skins[] = {
 const wchar_t* const PlayMark = L"new_skin/videoplay.png";
 const wchar_t* const Placeholder = L"new_skin/empty.png";
 
+/// The files of an entry's pictures as they are now. Where one is missing the system looks through the whole folder for it.
+std::vector<FileStamp> OutputsOf(const CString& path)
+{
+    std::vector<FileStamp> outputs;
+    for (const Skin& skin : skins)
+    {
+        outputs.push_back(StampOf(path + skin.suffix));
+    }
+    return outputs;
+}
+
 /// @param shown picture's file, for what is said of it
 /// @param caption its size
 /// @return why the output is not there, for the log; empty when it is
@@ -190,16 +201,14 @@ CString MakeThumbnail(const CString& caption, const CString& picture, UINT index
     {
         wanted.inputs.push_back(StampOf(ResourceFile(skin.border)));
         wanted.inputs.push_back(StampOf(ResourceFile(skin.plate)));
-        wanted.outputs.push_back(StampOf(path + skin.suffix));
     }
     Composition& known = KnownCompositions()[path];
-    if (SameInputs(known, wanted) && known.outputs == wanted.outputs)
+    if (SameInputs(known, wanted) && known.outputs == OutputsOf(path))
     {
         return stem;
     }
 
     known = Composition();
-    wanted.outputs.clear();
     const gp::Bitmap decoded = gp::LoadBitmapFile(shown);
     RECT captionSize;
     MeasureTextSize(captionSize, wanted.font, caption);
@@ -211,8 +220,8 @@ CString MakeThumbnail(const CString& caption, const CString& picture, UINT index
             LogFailure("thumbnail not made of", CString2string(shown) + " (" + failure + ")");
             return CString();
         }
-        wanted.outputs.push_back(StampOf(path + skin.suffix));
     }
+    wanted.outputs = OutputsOf(path);
     known = wanted;
     return stem;
 }
