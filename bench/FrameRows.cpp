@@ -186,7 +186,7 @@ std::vector<Row> FrameRows(Stage& stage, const std::string& folder)
     RequireSamePictures(bout, folder);
 
     constexpr std::size_t floor = 1;
-    const std::vector<Series> series = Alternate(FramesOf(bout), UsualRounds, 3);
+    const std::vector<Series> series = Alternate(FramesOf(bout), 2 * UsualRounds, 3);
     Row frameFloor = Compare("frame_floor", series[Bout::Interface], series[floor], 0.85, &Duration::process);
     frameFloor.what = "everything shown, from the first call to the finished picture; floor: one vertex-array loop";
     frameFloor.extra["rectangles"] = static_cast<double>(list.quads.size());

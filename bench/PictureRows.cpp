@@ -165,10 +165,27 @@ void BareTitle(const CString& title, const CString& path, const CLSID& encoder, 
     textures.push_back(bench::UploadTexture(picture));
     bench::FinishDrawing();
 }
+/// Those of other rows' many entries: the system looks through the folder for each file that is made.
+void RemoveThumbnails()
+{
+    const CString folder = SkinDir() + L"new_skin/";
+    WIN32_FIND_DATAW found;
+    const HANDLE find = FindFirstFileW(folder + L"TavGuiButtonImg*", &found);
+    if (find == INVALID_HANDLE_VALUE)
+    {
+        return;
+    }
+    do
+    {
+        DeleteFileW(folder + found.cFileName);
+    } while (FindNextFileW(find, &found));
+    FindClose(find);
+}
 } // namespace
 
 Row ThumbnailRow(Stage& stage)
 {
+    RemoveThumbnails();
     constexpr int usual = 20;
     const CString picture = stage.EntryPicture();
     int sample = 0;
@@ -204,7 +221,8 @@ Row ThumbnailRow(Stage& stage)
                                 for (int i = 0; i < usual; ++i)
                                 {
                                     CString output;
-                                    output.Format(L"%sbare%d", AppDir().GetString(), i);
+                                    // Beside the interface's own: in a fuller folder each file takes longer to find.
+                                    output.Format(L"%snew_skin/bare%d", SkinDir().GetString(), i);
                                     thumbnails.Make(captionOf(i), picture, i % 5 == 0, output);
                                 }
                             }),
