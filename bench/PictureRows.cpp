@@ -165,6 +165,7 @@ void BareTitle(const CString& title, const CString& path, const CLSID& encoder, 
     textures.push_back(bench::UploadTexture(picture));
     bench::FinishDrawing();
 }
+
 /// Those of other rows' many entries: the system looks through the folder for each file that is made.
 void RemoveThumbnails()
 {

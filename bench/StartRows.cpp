@@ -84,6 +84,7 @@ double Middle(std::vector<double> values, double part)
     std::sort(values.begin(), values.end());
     return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
 }
+
 /// What a started interface holds, each time of a process without one.
 std::vector<double> BytesHeldWith(Stage& stage, int buttons, int rows, int rounds)
 {

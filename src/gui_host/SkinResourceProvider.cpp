@@ -4,7 +4,6 @@
 #include "../frame/FrameNames.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/Names.h"
-
 #include "SkinFileKind.h"
 
 #include <CEGUI/Exceptions.h>
@@ -33,7 +32,7 @@ void SkinResourceProvider::loadRawDataContainer(const CEGUI::String& filename, C
     {
         throw CEGUI::FileIOException("'" + filename + "' is another kind of file: " + mismatch);
     }
-    TranslateOldSkin(filename, resourceGroup.empty() ? getDefaultResourceGroup() : resourceGroup, output);
+    TranslateOldSkin(filename, resourceGroup, output);
 }
 
 void SkinResourceProvider::RereadLooks()

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "../widgets/GuiResourceProvider.h"
-
 #include "OldSkin.h"
 
 #include <set>

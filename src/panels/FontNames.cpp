@@ -48,13 +48,14 @@ struct CloseFind
     void operator()(HANDLE find) const { FindClose(find); }
 };
 
-void AddShxFiles(std::vector<CString>& names)
+std::vector<CString> ShxFiles()
 {
+    std::vector<CString> names;
     WIN32_FIND_DATAW found;
     const HANDLE first = FindFirstFileW(SystemUtility::GetAppPath() + L"Fonts\\*.shx", &found);
     if (first == INVALID_HANDLE_VALUE)
     {
-        return;
+        return names;
     }
     const std::unique_ptr<HANDLE, CloseFind> find(first);
     do
@@ -64,24 +65,21 @@ void AddShxFiles(std::vector<CString>& names)
             names.push_back(found.cFileName);
         }
     } while (FindNextFileW(find.get(), &found));
+    return names;
 }
 } // namespace
 
 std::vector<CString> InstalledFontNames()
 {
     std::vector<CString> names = SystemFaces();
-    AddShxFiles(names);
+    const std::vector<CString> files = ShxFiles();
+    names.insert(names.end(), files.begin(), files.end());
     return names;
 }
 
 bool IsFontInstalled(const CString& faceName)
 {
-    std::vector<CString> names = SystemFaces();
-    const auto isAmongThem = [&] { return std::find(names.begin(), names.end(), faceName) != names.end(); };
-    if (isAmongThem())
-    {
-        return true;
-    }
-    AddShxFiles(names);
-    return isAmongThem();
+    const auto isAmong = [&](const std::vector<CString>& names)
+    { return std::find(names.begin(), names.end(), faceName) != names.end(); };
+    return isAmong(SystemFaces()) || isAmong(ShxFiles());
 }

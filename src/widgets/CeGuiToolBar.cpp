@@ -124,9 +124,9 @@ void CeGuiToolBar::NextItemPosition(float& x, float& y) const
 int CeGuiToolBar::AppendItem(const ToolBarItem& item)
 {
     items.push_back(item);
-    if (addingButtons_)
+    if (buttons_)
     {
-        WindowNames::AddChild(*window, *item.window, siblings_);
+        WindowNames::AddChild(*window, *item.window, buttons_->siblings);
     }
     else
     {
@@ -152,19 +152,16 @@ void CeGuiToolBar::SubscribeButton(CEGUI::Window& button)
 
 void CeGuiToolBar::BeginButtons()
 {
-    addingButtons_ = true;
-    firstWithoutEvents_ = items.size();
-    siblings_ = window ? WindowNames::SiblingsIn(*window) : WindowNames::Siblings();
+    buttons_ = {items.size(), window ? WindowNames::SiblingsIn(*window) : WindowNames::Siblings()};
 }
 
 void CeGuiToolBar::EndButtons()
 {
-    addingButtons_ = false;
-    siblings_.clear();
-    for (std::size_t i = firstWithoutEvents_; i < items.size(); ++i)
+    for (std::size_t i = buttons_->first; i < items.size(); ++i)
     {
         SubscribeButton(*items[i].window);
     }
+    buttons_.reset();
 }
 
 int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString hoverFile, CString pushedFile, CString tooltip)
@@ -214,7 +211,7 @@ int CeGuiToolBar::AddImageButton(CString itemName, CString normalFile, CString h
     {
         item.window->hide();
     }
-    if (!addingButtons_)
+    if (!buttons_)
     {
         SubscribeButton(*item.window);
     }

@@ -11,6 +11,7 @@
 #include <afxwin.h>
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace CEGUI
@@ -154,9 +155,13 @@ private:
     void MoveItems(float y);
     void MoveItemsWithThumb();
     ToolBarItem* ItemAt(int index);
-    std::size_t firstWithoutEvents_ = 0;
-    bool addingButtons_ = false;
-    WindowNames::Siblings siblings_; ///< between `BeginButtons` and `EndButtons`
+
+    struct ButtonsBegun
+    {
+        std::size_t first; ///< the index from which on items are without events
+        WindowNames::Siblings siblings;
+    };
+    std::optional<ButtonsBegun> buttons_; ///< between `BeginButtons` and `EndButtons`
     int Width() const { return rect.right - rect.left; }
     int Height() const { return rect.bottom - rect.top; }
 };

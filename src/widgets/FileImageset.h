@@ -44,7 +44,7 @@ void DestroyNamed(const CEGUI::String& name);
 void DestroyFileImagesets();
 
 /// Every image of CEGUI with its texture, the skin's own included.
-/// @param kept the name of an imageset that stays
+/// @param kept the name of an imageset that stays; empty: none
 void DestroyAllImagesets(const CEGUI::String& kept);
 
 /// For the time between taking a frame away and building it again: what `DestroyAllImagesets` takes away leaves its textures for

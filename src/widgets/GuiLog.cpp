@@ -51,8 +51,3 @@ void GuiLog::logEvent(const CEGUI::String& message, CEGUI::LoggingLevel level)
     }
     d_ostream << begin_ << message.c_str() << '\n';
 }
-
-void GuiLog::setLogFilename(const CEGUI::String&, bool)
-{
-    // CEGUI's system names the same file again, which would empty it.
-}

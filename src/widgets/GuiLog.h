@@ -22,7 +22,6 @@ public:
     static void End();
 
     void logEvent(const CEGUI::String& message, CEGUI::LoggingLevel level) override;
-    void setLogFilename(const CEGUI::String& file, bool append) override;
 
 private:
     /// What the lines of a second begin with.

@@ -41,11 +41,8 @@ CEGUI::Window* Create(const char* type, const CEGUI::String& name)
 
 void AddChild(CEGUI::Window& parent, CEGUI::Window& child)
 {
-    while (parent.isChild(child.getName()))
-    {
-        Rename(child);
-    }
-    parent.addChild(&child);
+    Siblings siblings = SiblingsIn(parent);
+    AddChild(parent, child, siblings);
 }
 
 Siblings SiblingsIn(const CEGUI::Window& parent)
