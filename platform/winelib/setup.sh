@@ -80,17 +80,35 @@ build_targets()
              { print; fflush() }' || fail "the build"
 }
 
+# What a new prefix needs beside its files; Wine's own complaints tell why it fails.
+fill_prefix()
+{
+    local display=()
+    [ -n "${DISPLAY:-}" ] || display=("$root/platform/winelib/with_display.sh")
+    # Programs here run on displays without a window manager; run_wine.sh tells what that means.
+    WINEDEBUG=err+all "${display[@]}" wine wineboot --init &&
+        "${display[@]}" wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f
+}
+
 make_prefix()
 {
     . "$root/platform/winelib/wine_env.sh" "$build/wineprefix"
     [ ! -e "$WINEPREFIX/fresh" ] || return 0
     say "making the Wine prefix (about 15 seconds)"
-    local display=()
-    [ -n "${DISPLAY:-}" ] || display=("$root/platform/winelib/with_display.sh")
-    "${display[@]}" wine wineboot --init >"$build/wineboot.log" 2>&1 || fail "the Wine prefix (see $build/wineboot.log)"
-    # Programs here run on displays without a window manager; run_wine.sh tells what that means.
-    "${display[@]}" wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >>"$build/wineboot.log" 2>&1 ||
-        fail "the Wine prefix (see $build/wineboot.log)"
+    # A prefix asks much of a machine that has just built: a server, a display and a dozen processes, each with its own limit
+    # of time. One that did not get ready is of no use, so the next try begins with nothing:
+    # the build's own, never one that the environment names.
+    local try
+    for try in 1 2 3; do
+        rm -rf "$build/wineprefix"
+        if fill_prefix >"$build/wineboot.log" 2>&1; then
+            break
+        fi
+        wineserver -k || true
+        tail -n 5 "$build/wineboot.log" | cut -c1-200 | sed 's/^/    /' >&2
+        [ $try -lt 3 ] || fail "the Wine prefix (see $build/wineboot.log)"
+        say "once more"
+    done
     echo N >"$WINEPREFIX/managed"
     # The registry is written when the last program has gone.
     wineserver -w
