@@ -136,8 +136,8 @@ const std::vector<int> EntryCounts = {10, 100, 1000};
 /// The interface's frames by the number of entries in its list, by turns.
 std::map<int, Series> FramesByEntries(Stage& stage)
 {
-    constexpr int turns = 3;
-    constexpr int framesPerTurn = 12;
+    constexpr int turns = 5;
+    constexpr int framesPerTurn = 8;
     std::map<int, Series> series;
     for (int turn = 0; turn < turns; ++turn)
     {
