@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GuiRenderer.h"
 
+#include <CEGUI/GUIContext.h>
 #include <CEGUI/RendererModules/OpenGL/GLGeometryBuffer.h>
 #include <CEGUI/RendererModules/OpenGL/Texture.h>
 #include <CEGUI/RenderingSurface.h>
@@ -21,43 +22,54 @@ bool IsWhole(float pixels)
 {
     return std::fabs(pixels - std::round(pixels)) <= Tolerance;
 }
+} // namespace
 
 /// Everything that is drawn of one window. What is known of it is found out at its first draw after a change.
-class Pictures : public CEGUI::OpenGLGeometryBuffer
+class GuiRenderer::Pictures : public CEGUI::OpenGLGeometryBuffer
 {
 public:
     explicit Pictures(GuiRenderer& owner) : CEGUI::OpenGLGeometryBuffer(owner), renderer_(owner) {}
 
     void setTranslation(const CEGUI::Vector3f& translation) override
     {
-        known_ = false;
+        Change();
         OpenGLGeometryBuffer::setTranslation(translation);
     }
     void setRotation(const CEGUI::Quaternion& rotation) override
     {
-        known_ = false;
+        Change();
         turned_ = rotation != CEGUI::Quaternion::IDENTITY;
         OpenGLGeometryBuffer::setRotation(rotation);
     }
     void setClippingRegion(const CEGUI::Rectf& region) override
     {
-        known_ = false;
+        Change();
         OpenGLGeometryBuffer::setClippingRegion(region);
     }
     void appendVertex(const CEGUI::Vertex& vertex) override
     {
-        known_ = false;
+        Change();
         OpenGLGeometryBuffer::appendVertex(vertex);
     }
     void appendGeometry(const CEGUI::Vertex* vertices, CEGUI::uint count) override
     {
-        known_ = false;
+        Change();
         OpenGLGeometryBuffer::appendGeometry(vertices, count);
     }
     void reset() override
     {
-        known_ = false;
+        Change();
         OpenGLGeometryBuffer::reset();
+    }
+    void setRenderEffect(CEGUI::RenderEffect* effect) override
+    {
+        Change();
+        OpenGLGeometryBuffer::setRenderEffect(effect);
+    }
+    void setBlendMode(const CEGUI::BlendMode mode) override
+    {
+        Change();
+        OpenGLGeometryBuffer::setBlendMode(mode);
     }
 
     void draw() const override
@@ -70,28 +82,41 @@ public:
             Look();
             pixelOnPixel_ = IsPixelOnPixel();
         }
+        const bool mayWait = renderer_.MayWait();
+        if (renderer_.queueing_)
+        {
+            generation_ = renderer_.generation_;
+            renderer_.queued_.push_back(this);
+        }
         if (plain && !seen_)
         {
             return;
         }
-        if (plain && d_blendMode == CEGUI::BM_NORMAL && renderer_.MayWait())
+        if (plain && d_blendMode == CEGUI::BM_NORMAL && mayWait)
         {
             Wait();
             return;
         }
+        renderer_.queueing_ = false;
         renderer_.DrawWaiting();
         renderer_.ReadNearestPixels(plain && pixelOnPixel_);
         OpenGLGeometryBuffer::draw();
     }
 
 private:
+    void Change()
+    {
+        known_ = false;
+        renderer_.changed_ = renderer_.changed_ || generation_ == renderer_.generation_;
+    }
+
     void Wait() const
     {
         static_assert(sizeof(GLVertex) == sizeof(SystemGl::Vertex), "they are copied as they stand");
         std::size_t first = 0;
         for (const BatchInfo& batch : d_batches)
         {
-            renderer_.Wait(
+            renderer_.waiting_.Add(
                 {batch.texture, pixelOnPixel_, batch.clip && !whole_, d_clipRect, 0, static_cast<int>(batch.vertexCount)},
                 d_vertices[first].tex, d_translation);
             first += batch.vertexCount;
@@ -152,8 +177,8 @@ private:
     mutable bool seen_ = true;
     mutable bool whole_ = false; ///< nothing of it is cut off
     mutable bool pixelOnPixel_ = false;
+    mutable unsigned int generation_ = 0; ///< the last one that it belonged to
 };
-} // namespace
 
 GuiRenderer::GuiRenderer() : CEGUI::OpenGLRenderer(TTT_AUTO) {}
 
@@ -195,15 +220,31 @@ void GuiRenderer::UseState(osg::State& state)
     }
 }
 
-void GuiRenderer::DrawTogether(CEGUI::RenderingSurface& surface)
+void GuiRenderer::DrawTogether(CEGUI::GUIContext& context)
 {
-    surface_ = &surface;
-    surface.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueEnded,
-                           [this](const CEGUI::EventArgs&)
+    context_ = &context;
+    context.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueStarted,
+                           [this](const CEGUI::EventArgs& args)
                            {
-                               DrawWaiting();
+                               BeginQueue(static_cast<const CEGUI::RenderQueueEventArgs&>(args).queueID);
                                return true;
                            });
+    context.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueEnded,
+                           [this](const CEGUI::EventArgs&)
+                           {
+                               EndQueue();
+                               return true;
+                           });
+}
+
+void GuiRenderer::beginRendering()
+{
+    if (context_ && context_->isDirty())
+    {
+        // All windows are queued anew, and those that are gone are not among them.
+        ForgetWindows();
+    }
+    OpenGLRenderer::beginRendering();
 }
 
 void GuiRenderer::endRendering()
@@ -213,40 +254,76 @@ void GuiRenderer::endRendering()
     OpenGLRenderer::endRendering();
 }
 
-bool GuiRenderer::MayWait()
+void GuiRenderer::BeginQueue(CEGUI::RenderQueueID queue)
 {
-    return surface_ && getActiveRenderTarget() == &surface_->getRenderTarget();
+    DrawWaiting();
+    if (queue != CEGUI::RQ_BASE)
+    {
+        return;
+    }
+    if (kept_ && !changed_)
+    {
+        DrawAll(windows_);
+        return;
+    }
+    if (kept_)
+    {
+        // A window that moves is not queued again by CEGUI.
+        for (const Pictures* pictures : queued_)
+        {
+            context_->addGeometryBuffer(queue, *pictures);
+        }
+    }
+    ForgetWindows();
+    queueing_ = true;
 }
 
-void GuiRenderer::Wait(Draw draw, const float* vertices, const CEGUI::Vector3f& moved)
+void GuiRenderer::EndQueue()
 {
-    const std::size_t first = vertices_.size();
-    draw.first = static_cast<int>(first);
-    draws_.push_back(draw);
-    vertices_.resize(first + static_cast<std::size_t>(draw.count));
-    // CEGUI's vertices are put together like ours.
-    std::memcpy(&vertices_[first], vertices, static_cast<std::size_t>(draw.count) * sizeof(SystemGl::Vertex));
-    for (auto vertex = vertices_.begin() + draw.first; vertex != vertices_.end(); ++vertex)
+    if (queueing_)
     {
-        vertex->position[0] += moved.d_x;
-        vertex->position[1] += moved.d_y;
-        vertex->position[2] += moved.d_z;
+        std::swap(waiting_, windows_);
+        DrawAll(windows_);
+        context_->clearGeometry(CEGUI::RQ_BASE);
+        kept_ = true;
+        queueing_ = false;
     }
+    DrawWaiting();
+}
+
+void GuiRenderer::ForgetWindows()
+{
+    ++generation_;
+    kept_ = false;
+    changed_ = false;
+    windows_.Clear();
+    queued_.clear();
+}
+
+bool GuiRenderer::MayWait()
+{
+    return context_ && getActiveRenderTarget() == &context_->getRenderTarget();
 }
 
 void GuiRenderer::DrawWaiting()
 {
-    if (draws_.empty())
+    DrawAll(waiting_);
+    waiting_.Clear();
+}
+
+void GuiRenderer::DrawAll(const DrawList& list)
+{
+    if (list.draws.empty())
     {
         return;
     }
     setupRenderingBlendMode(CEGUI::BM_NORMAL);
     SystemGl::ResetModelMatrix();
-    SystemGl::UseVertices(vertices_.data());
+    SystemGl::UseVertices(list.vertices.data());
     const float height = getActiveViewPort().getHeight();
     bool cut = false;
     SystemGl::EnableScissor(cut);
-    for (const Draw& draw : draws_)
+    for (const Draw& draw : list.draws)
     {
         ReadNearestPixels(draw.nearest);
         if (draw.cut != cut)
@@ -262,8 +339,6 @@ void GuiRenderer::DrawWaiting()
         SystemGl::BindTexture(draw.texture);
         SystemGl::DrawTriangles(draw.first, draw.count);
     }
-    draws_.clear();
-    vertices_.clear();
 }
 
 void GuiRenderer::ReadNearestPixels(bool nearest)
@@ -273,6 +348,28 @@ void GuiRenderer::ReadNearestPixels(bool nearest)
         nearest_ = nearest;
         extensions_->glBindSampler(0, nearest ? sampler_ : 0);
     }
+}
+
+void GuiRenderer::DrawList::Add(Draw draw, const float* first, const CEGUI::Vector3f& moved)
+{
+    draw.first = static_cast<int>(vertices.size());
+    draws.push_back(draw);
+    vertices.resize(vertices.size() + static_cast<std::size_t>(draw.count));
+    const auto added = vertices.begin() + draw.first;
+    // CEGUI's vertices are put together like ours.
+    std::memcpy(&*added, first, static_cast<std::size_t>(draw.count) * sizeof(SystemGl::Vertex));
+    for (auto vertex = added; vertex != vertices.end(); ++vertex)
+    {
+        vertex->position[0] += moved.d_x;
+        vertex->position[1] += moved.d_y;
+        vertex->position[2] += moved.d_z;
+    }
+}
+
+void GuiRenderer::DrawList::Clear()
+{
+    vertices.clear();
+    draws.clear();
 }
 
 CEGUI::OpenGLGeometryBufferBase* GuiRenderer::createGeometryBuffer_impl()
