@@ -82,7 +82,6 @@ public:
             Look();
             pixelOnPixel_ = IsPixelOnPixel();
         }
-        const bool mayWait = renderer_.MayWait();
         if (renderer_.queueing_)
         {
             generation_ = renderer_.generation_;
@@ -92,7 +91,7 @@ public:
         {
             return;
         }
-        if (plain && d_blendMode == CEGUI::BM_NORMAL && mayWait)
+        if (plain && d_blendMode == CEGUI::BM_NORMAL && renderer_.MayWait())
         {
             Wait();
             return;

@@ -96,10 +96,17 @@ SoakHost::SoakHost() : host_(BaseSize.cx, BaseSize.cy), user_(host_)
         }
     };
     timer_ = SetTimer(nullptr, 0, StrayTick, &SoakHost::OnTick);
-    Restart();
-    // The files of every entry's picture that there will ever be.
-    UseViews(MostViews);
-    Rebuild();
+    // The files of every picture that there will ever be, in either skin.
+    for (const bool light : {true, false})
+    {
+        TakeLightSkin(light);
+        Restart();
+        UseViews(MostViews);
+        ShowRows(BaseRows);
+        Frame().OpenPropertyDlg(nullptr, true);
+        Frame().CreateTooltipWindow(1, 1, L"提示");
+        Rebuild();
+    }
     GoToBase();
 }
 
