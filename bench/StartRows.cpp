@@ -181,7 +181,7 @@ std::vector<Row> StartRows(Stage& stage)
         return duration;
     };
     // Of short works that allocate much; they vary more than others.
-    constexpr int rounds = 101;
+    constexpr int rounds = 301;
     const std::vector<Series> series = Alternate({own, [&] { return bare(frame); }, [&] { return bare({}); }}, rounds);
     Row startup = Compare("startup", series[0], series[1], 1.3);
     startup.what =
