@@ -80,7 +80,7 @@ build_targets()
              { print; fflush() }' || fail "the build"
 }
 
-# What a new prefix needs beside its files; Wine's own complaints tell why it fails.
+# Wine's own complaints go to the log: they tell why it fails.
 fill_prefix()
 {
     local display=()
@@ -96,15 +96,17 @@ make_prefix()
     [ ! -e "$WINEPREFIX/fresh" ] || return 0
     say "making the Wine prefix (about 15 seconds)"
     # A prefix asks much of a machine that has just built: a server, a display and a dozen processes, each with its own limit
-    # of time. One that did not get ready is of no use, so the next try begins with nothing:
-    # the build's own, never one that the environment names.
+    # of time. One that did not get ready is of no use, so that each try begins with nothing; a prefix that the environment
+    # names may hold somebody's programs and stays as it is.
     local try
     for try in 1 2 3; do
-        rm -rf "$build/wineprefix"
+        if [ "$WINEPREFIX" = "$build/wineprefix" ]; then
+            wineserver -k 2>/dev/null || true
+            rm -rf "$WINEPREFIX"
+        fi
         if fill_prefix >"$build/wineboot.log" 2>&1; then
             break
         fi
-        wineserver -k || true
         tail -n 5 "$build/wineboot.log" | cut -c1-200 | sed 's/^/    /' >&2
         [ $try -lt 3 ] || fail "the Wine prefix (see $build/wineboot.log)"
         say "once more"
