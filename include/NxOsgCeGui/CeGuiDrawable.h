@@ -37,6 +37,7 @@ public:
 
     /// Draws the interface when the context is the one given to `Init`, else does nothing. The very first matching draw is
     /// skipped, so that CEGUI first renders after one full frame of the context.
+    /// Without CEGUI (before `Init`, in a clone, after `Finish`) it draws nothing.
     void drawImplementation(osg::RenderInfo& renderInfo) const override;
 
     /// Creates CEGUI on the current OpenGL context and loads the skin.
@@ -44,9 +45,12 @@ public:
     /// @throws CEGUI::Exception when the skin is missing or wrong
     virtual void Init(int contextId);
 
-    /// Tears CEGUI down; the context has to be current. Harmless when not initialised. Remove the drawable from the scene
-    /// first: a draw afterwards would find no CEGUI.
+    /// Tears CEGUI down; the context has to be current. Harmless when not initialised. Must not be called from a slot of an event
+    /// of CEGUI or while it draws; `CeGuiMainFrame::CloseGuiSystem` may.
     void Finish();
+
+    /// Whether this drawable has CEGUI: true from a successful `Init` until `Finish`.
+    bool IsInitialised() const;
 
 protected:
     ~CeGuiDrawable() override;
@@ -56,11 +60,15 @@ protected:
     virtual void Config();
 
 private:
+    friend class CeGuiMainFrame;
+
     unsigned int contextId_ = 0;
     unsigned long long reserved_ = 0;
     CEGUI::OpenGLRenderer* renderer_ = nullptr;
     CEGUI::System* system_ = nullptr;
     mutable bool firstFrameDrawn_ = false;
+    /// The interface is closed, while CEGUI waits for the end of its functions that are on the stack.
+    bool retired_ = false;
     /// CEGUI's System uses these and does not own them.
     std::shared_ptr<CEGUI::ResourceProvider> resourceProvider_;
     std::shared_ptr<CEGUI::ImageCodec> imageCodec_;

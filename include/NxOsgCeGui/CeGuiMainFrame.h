@@ -11,6 +11,7 @@
 
 #include <osg/Camera>
 #include <osg/Group>
+#include <osg/State>
 #include <osg/observer_ptr>
 #include <osg/ref_ptr>
 #include <osgViewer/Viewer>
@@ -38,6 +39,12 @@ class Window;
 /// All of it belongs to the thread that handles the viewer's events and draws; nothing is locked. Every operation is safe in
 /// every state: before `Init`, between `ClearAllWindows` and `CreateMainFrame`, and after `CloseGuiSystem`; what it cannot do
 /// then it leaves undone. Only `Init` and `CreateMainFrame` raise (CEGUI::Exception).
+///
+/// Every operation may be called from a slot of an event of CEGUI, and from a message loop or a frame that such a slot runs.
+/// `CloseGuiSystem`, `Init`, `ClearAllWindows`, `CreateMainFrame` and size events are put off there until the outermost slot has
+/// returned, in the order of their calls; a failure is then logged instead of raised. After `CloseGuiSystem` the interface counts
+/// as closed at once. OpenSceneGraph forbids changes of the scene graph during a traversal, so that a slot must leave
+/// `GetGUINode()` where it is.
 ///
 /// View pixels have their origin at the top left of the 3D view.
 class NXOSGCEGUI_API CeGuiMainFrame
@@ -75,7 +82,10 @@ public:
     /// The first record of that name (case-sensitive) and kind, or null. Valid until the list is next changed.
     virtual BTN_UNIT* GetBtnProperty(const CString& name, int kind);
 
-    /// Makes the HUD camera and drawable and starts CEGUI on the viewer's context, which stays current.
+    /// Makes the HUD camera and drawable and starts CEGUI on the viewer's context, which stays current. While the viewer's camera
+    /// has no context (before `realize`), CEGUI starts with the first size event that finds one; the log says so.
+    ///
+    /// The viewer is made single-threaded: input, drawing and interface belong to one thread.
     /// @param viewer not owned; may go away after `CloseGuiSystem`
     /// @return always true
     /// @throws CEGUI::Exception when the skin is missing or wrong
@@ -218,12 +228,29 @@ protected:
     void InitGuiDrawable();
 
 private:
+    friend class CeGuiEventHandler;
+
     CeGuiMainFrame();
     ~CeGuiMainFrame();
     CeGuiMainFrame(const CeGuiMainFrame&) = delete;
     CeGuiMainFrame& operator=(const CeGuiMainFrame&) = delete;
 
     osgViewer::GraphicsWindow* ViewerWindow();
+    /// Whether an event names another graphics context than that of the viewer's camera.
+    bool IsOfOtherContext(const osgGA::GUIEventAdapter& event) const;
+    /// Whether CEGUI is there and belongs to this object: false as soon as the interface is closed.
+    bool HasGui() const;
+    /// Whether what CEGUI has made is in another context than this one: in one that is closed, most likely.
+    bool LivesElsewhere(const osg::GraphicsContext& context) const;
+    /// Starts CEGUI in the viewer's present context when it is not there, or is in a context that is gone. A failure is logged.
+    /// @return whether it is there
+    bool StartGui();
+    void FinishGui(CeGuiDrawable& drawable);
+    void TearDown(osg::ref_ptr<CeGuiDrawable> drawable, osg::ref_ptr<osg::Camera> camera, bool traversed);
+    /// Lays the chrome out for a view of this size, in pixels.
+    void SizeView(int width, int height);
+    void ClearFrame();
+    bool BuildFrame();
 
     CeGuiToolBar* FindBar(const CString& name);
     /// Makes a bar that this frame owns. Nothing enters it in the frame table yet.
@@ -257,6 +284,8 @@ private:
     osg::ref_ptr<CeGuiDrawable> drawable_;
     osg::ref_ptr<osg::Camera> hudCamera_;
     osg::observer_ptr<osgViewer::Viewer> viewer_;
+    /// Of the context that CEGUI has been started in: its textures are there.
+    osg::observer_ptr<osg::State> guiState_;
     UINT windowWidth_ = 800;
     UINT windowHeight_ = 600;
     bool displaySystemMouse_ = false;

@@ -2,6 +2,7 @@
 #include "ButtonEditing.h"
 
 #include "../widgets/InputState.h"
+#include "../widgets/MessageLoops.h"
 #include "../widgets/Names.h"
 #include "../widgets/WindowNames.h"
 #include "PopupMenus.h"
@@ -30,6 +31,26 @@ CeGuiMainFrame& Frame()
 bool IsButtonName(const CEGUI::String& name)
 {
     return name.compare(0, ButtonPrefix.length(), ButtonPrefix.data()) == 0;
+}
+
+/// Shows a menu where the cursor is now. When it is closed, the window that it was opened on is the edited one.
+void OpenMenu(void (*show)(POINT place), const CEGUI::String& underMouse)
+{
+    POINT cursor = {};
+    GetCursorPos(&cursor);
+    MessageLoops::Run(
+        [=]
+        {
+            if (Frame().IsInit())
+            {
+                show(cursor);
+            }
+            // In the menu's message loop the host may have ended the interface.
+            if (Frame().IsInit())
+            {
+                InputState::Get().editedWindow = underMouse;
+            }
+        });
 }
 } // namespace
 
@@ -112,27 +133,24 @@ void ReleaseLeft()
 
 void ReleaseRight()
 {
-    // By value: a menu runs a message loop of its own, in which the host may do anything.
-    const CEGUI::String underMouse = InputState::Get().windowUnderMouse;
-    if (underMouse.empty() && InputState::Get().contextMenuAllowed)
+    InputState& input = InputState::Get();
+    if (input.windowUnderMouse.empty() && input.contextMenuAllowed)
     {
-        ShowSceneMenu();
-        InputState::Get().editedWindow = underMouse;
+        OpenMenu(&ShowSceneMenu, input.windowUnderMouse);
     }
     else if (Frame().GetUser() == GUI_USER_FULL)
     {
         if (mouseFlags.buttonEditMode && !mouseFlags.leftButton)
         {
-            InputState::Get().editedWindow.clear();
+            input.editedWindow.clear();
             mouseFlags.buttonEditMode = false;
         }
-        if (IsButtonName(underMouse))
+        if (IsButtonName(input.windowUnderMouse))
         {
-            ShowButtonMenu();
-            InputState::Get().editedWindow = underMouse;
+            OpenMenu(&ShowButtonMenu, input.windowUnderMouse);
         }
     }
-    InputState::Get().contextMenuAllowed = true;
+    input.contextMenuAllowed = true;
 }
 } // namespace ButtonEditing
 

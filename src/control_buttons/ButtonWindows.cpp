@@ -3,6 +3,7 @@
 #include "ButtonWindows.h"
 
 #include "../panels/TitleEditDialog.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
@@ -83,6 +84,7 @@ bool OnControlButtonClicked(const CEGUI::EventArgs& args)
 
 void CeGuiMainFrame::DeleteButton(const CString& name)
 {
+    const CallbackScope scope;
     DestroyWindowNamed(name);
     for (auto record = controlButtons_.begin(); record != controlButtons_.end(); ++record)
     {
@@ -97,6 +99,7 @@ void CeGuiMainFrame::DeleteButton(const CString& name)
 
 void CeGuiMainFrame::ClearAllCtrlBtn()
 {
+    const CallbackScope scope;
     if (!MakeContextCurrent() || !CEGUI::WindowManager::getSingletonPtr())
     {
         return;

@@ -17,14 +17,13 @@
 
 namespace
 {
-void Track(HMENU menu)
+void Track(HMENU menu, POINT place)
 {
     const CWinThread* thread = AfxGetThread();
     const CWnd* owner = thread ? const_cast<CWinThread*>(thread)->GetMainWnd() : nullptr;
-    POINT cursor;
-    if (menu && owner && GetCursorPos(&cursor))
+    if (menu && owner)
     {
-        TrackPopupMenu(menu, 0, cursor.x, cursor.y, 0, owner->GetSafeHwnd(), nullptr);
+        TrackPopupMenu(menu, 0, place.x, place.y, 0, owner->GetSafeHwnd(), nullptr);
     }
 }
 
@@ -36,7 +35,7 @@ struct DestroyMenuHandle
 using Menu = std::unique_ptr<std::remove_pointer_t<HMENU>, DestroyMenuHandle>;
 } // namespace
 
-void ShowSceneMenu()
+void ShowSceneMenu(POINT place)
 {
     CString file = _a2w(CParamConfig::getInstance()->getStringParam("QMV发布右键菜单"));
     if (file.IsEmpty())
@@ -46,11 +45,11 @@ void ShowSceneMenu()
     CDynMenuCreater creater;
     if (creater.Load(file))
     {
-        Track(GetSubMenu(creater.GetMenu(), 0));
+        Track(GetSubMenu(creater.GetMenu(), 0), place);
     }
 }
 
-void ShowButtonMenu()
+void ShowButtonMenu(POINT place)
 {
     const Menu menu(LoadMenuW(ModuleInstance(), MAKEINTRESOURCEW(IDR_BUTTON_MENU)));
     if (!menu)
@@ -58,5 +57,5 @@ void ShowButtonMenu()
         LogFailure("menu not loaded", "5003");
         return;
     }
-    Track(GetSubMenu(menu.get(), 0));
+    Track(GetSubMenu(menu.get(), 0), place);
 }

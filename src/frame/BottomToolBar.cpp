@@ -3,6 +3,7 @@
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
 #include "../panels/HoverEvents.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
@@ -138,6 +139,7 @@ void CeGuiMainFrame::SubscribeSlidingBar(CeGuiToolBar& bar)
 
 void CeGuiMainFrame::CreateToolBar()
 {
+    const CallbackScope scope;
     const wchar_t* const background = L"bottomBG.png";
     if (!CEGUI::System::getSingletonPtr() || !CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow() ||
         !MakeContextCurrent())

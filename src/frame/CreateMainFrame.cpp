@@ -4,6 +4,7 @@
 
 #include "../panels/HoverEvents.h"
 #include "../panels/TooltipEvents.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
@@ -18,6 +19,8 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
+#include <utility>
+
 namespace
 {
 CEGUI::GUIContext& Gui()
@@ -28,7 +31,18 @@ CEGUI::GUIContext& Gui()
 
 bool CeGuiMainFrame::CreateMainFrame()
 {
-    if (!drawable_ || !CEGUI::System::getSingletonPtr())
+    if (CallbackScope::IsActive())
+    {
+        CallbackScope::Run(CallbackScope::Request::Build, [this] { BuildFrame(); });
+        return drawable_.valid();
+    }
+    const CallbackScope scope;
+    return BuildFrame();
+}
+
+bool CeGuiMainFrame::BuildFrame()
+{
+    if (!HasGui())
     {
         return false;
     }
@@ -141,7 +155,7 @@ void CeGuiMainFrame::AddItemEvents(CeGuiToolBar& bar)
 CeGuiToolBar* CeGuiMainFrame::FindBar(const CString& name)
 {
     const auto found = frameTable_.find(name);
-    return found == frameTable_.end() ? nullptr : found->second;
+    return HasGui() && found != frameTable_.end() ? found->second : nullptr;
 }
 
 void CeGuiMainFrame::ReleaseBars()
@@ -168,10 +182,16 @@ void CeGuiMainFrame::ReleaseFailedFrame()
 
 void CeGuiMainFrame::DestoryAllToolBar()
 {
-    for (const auto& [name, bar] : frameTable_)
+    if (!HasGui())
+    {
+        return;
+    }
+    const CallbackScope scope;
+    // Out of the table first: a host's slot may change it. The bars themselves stay until the next frame is built: this may be
+    // running in a slot of one of them.
+    const auto destroyed = std::exchange(frameTable_, {});
+    for (const auto& [name, bar] : destroyed)
     {
         bar->DestroyToolBar();
     }
-    // The bars themselves stay until the next frame is built: this may be running in a slot of one of them.
-    frameTable_.clear();
 }

@@ -2,6 +2,7 @@
 // Full-scene mode: the 3D view alone, with the bars sliding in at its edges.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "ChromeEvents.h"
 #include "FrameNames.h"
@@ -35,6 +36,7 @@ void ShowFrame(CeGuiToolBar* bar, bool show)
 
 void CeGuiMainFrame::OnToolBarFullScene(bool full)
 {
+    const CallbackScope scope;
     fullScene_ = full;
     const LONG height = static_cast<LONG>(windowHeight_);
     const LONG border = borderWidth_;

@@ -5,6 +5,7 @@
 #include "../control_buttons/ButtonWindows.h"
 #include "../panels/HoverEvents.h"
 #include "../panels/Thumbnails.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FileImageset.h"
 #include "FrameNames.h"
@@ -76,6 +77,7 @@ void CeGuiMainFrame::CreateLeftList()
 
 void CeGuiMainFrame::OnToolBarRCList(void* button)
 {
+    const CallbackScope scope;
     CeGuiToolBar* list = FindBar(FrameNames::LeftList);
     CeGuiToolBar* tools = FindBar(FrameNames::ToolBar);
     if (!list || !tools)
@@ -99,6 +101,7 @@ void CeGuiMainFrame::OnToolBarRCList(void* button)
 
 bool CeGuiMainFrame::ChangeLeftBtnState(int oldIndex, int newIndex, bool scrollTo)
 {
+    const CallbackScope scope;
     if (newIndex == oldIndex)
     {
         return false;

@@ -3,6 +3,7 @@
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
 #include "../panels/HoverEvents.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
@@ -74,6 +75,7 @@ void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)
 
 void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CString fontStyle, float fontHeight)
 {
+    const CallbackScope scope;
     sceneTitle_ = title;
     sceneTitleColor_ = color;
     sceneTitleFontHeight_ = fontHeight;
@@ -105,6 +107,7 @@ void CeGuiMainFrame::ClearTitleSet()
 
 void CeGuiMainFrame::CreateTitle(const CString& title, COLORREF color)
 {
+    const CallbackScope scope;
     if (!CEGUI::WindowManager::getSingletonPtr() || !MakeContextCurrent())
     {
         return;

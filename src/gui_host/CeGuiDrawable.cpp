@@ -4,6 +4,7 @@
 
 #include <NxOsgCeGui/CeGuiDrawable.h>
 
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
@@ -114,7 +115,7 @@ void CeGuiDrawable::Init(int contextId)
         {
             told += " (config\\parameters.ini has no " + std::string(SkinParameter) + ")";
         }
-        LogFailure("skin not loaded", told);
+        LogRaised("skin not loaded", told, NameBytes(failure.getMessage()));
         throw;
     }
     contextId_ = static_cast<unsigned int>(contextId);
@@ -167,10 +168,11 @@ void CeGuiDrawable::InitResource()
 void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
 {
     osg::State& state = *renderInfo.getState();
-    if (state.getContextID() != contextId_)
+    if (state.getContextID() != contextId_ || !IsInitialised())
     {
         return;
     }
+    const CallbackScope scope;
     if (!firstFrameDrawn_)
     {
         firstFrameDrawn_ = true;
@@ -184,9 +186,24 @@ void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
         state.setClientActiveTextureUnit(0);
         state.setActiveTextureUnit(0);
         static_cast<GuiRenderer*>(renderer_)->UseState(state);
-        CEGUI::System::getSingleton().renderAllGUIContexts();
+        if (CallbackScope::IsNested())
+        {
+            // The system's own drawing ends with the release of destroyed windows, whose functions are still on the stack.
+            renderer_->beginRendering();
+            system_->getDefaultGUIContext().draw();
+            renderer_->endRendering();
+        }
+        else
+        {
+            system_->renderAllGUIContexts();
+        }
     }
     state.checkGLErrors("CEGUIDrawable::drawImplementation");
+}
+
+bool CeGuiDrawable::IsInitialised() const
+{
+    return system_ && system_ == CEGUI::System::getSingletonPtr() && !retired_;
 }
 
 void CeGuiDrawable::Finish()

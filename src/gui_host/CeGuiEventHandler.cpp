@@ -2,8 +2,8 @@
 #include "CeGuiEventHandler.h"
 
 #include "../control_buttons/ButtonEditing.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/FailureLog.h"
-#include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
 #include "../widgets/Names.h"
 
@@ -15,6 +15,7 @@
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
+#include <osgGA/EventVisitor>
 #include <osgViewer/Viewer>
 
 #include <iostream>
@@ -92,7 +93,6 @@ bool Release(const Event& ea, Position mouse, const osg::Object& object)
         mouseFlags.buttonHeld = false;
         mouseFlags.leftButton = false;
         ButtonEditing::ReleaseRight();
-        // The menu's message loop may have closed the interface.
         InputState::Get().windowUnderMouse.clear();
         break;
     default:
@@ -146,7 +146,30 @@ bool Scroll(const Event& ea)
     return Gui().injectMouseWheelChange(change);
 }
 
-bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)
+/// Keeps the visitor's events out of the reach of frames that a slot of the host draws: their event traversal uses the same
+/// visitor, and clears its list, which the traversal that this event comes from has not read to its end.
+class EventsKept
+{
+public:
+    explicit EventsKept(osg::NodeVisitor* visitor) : visitor_(visitor ? visitor->asEventVisitor() : nullptr) { Exchange(); }
+    ~EventsKept() { Exchange(); }
+    EventsKept(const EventsKept&) = delete;
+    EventsKept& operator=(const EventsKept&) = delete;
+
+private:
+    void Exchange()
+    {
+        if (visitor_)
+        {
+            events_.swap(visitor_->getEvents());
+        }
+    }
+
+    osgGA::EventVisitor* visitor_;
+    osgGA::EventQueue::Events events_;
+};
+
+CSize ViewSize(const Event& ea, osgGA::GUIActionAdapter& aa)
 {
     int width = ea.getWindowWidth();
     int height = ea.getWindowHeight();
@@ -158,22 +181,10 @@ bool Resize(const Event& ea, osgGA::GUIActionAdapter& aa)
             height = static_cast<int>(viewport->height());
         }
     }
-    // A minimised window has no size: there is nothing to lay out before it has one again.
-    if (width <= 0 || height <= 0)
-    {
-        return false;
-    }
-    CEGUI::System::getSingleton().notifyDisplaySizeChanged(CEGUI::Sizef(static_cast<float>(width), static_cast<float>(height)));
-    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
-    frame.SetWindowSize(static_cast<UINT>(width), static_cast<UINT>(height));
-    const FileImagesets::TextureReuse reuse;
-    frame.ClearAllWindows();
-    frame.CreateMainFrame();
-    Gui().markAsDirty();
-    return false;
+    return CSize(width, height);
 }
 
-bool Dispatch(const Event& ea, osgGA::GUIActionAdapter& aa, const osg::Object& object, Position mouse)
+bool Dispatch(const Event& ea, const osg::Object& object, Position mouse)
 {
     switch (ea.getEventType())
     {
@@ -193,31 +204,45 @@ bool Dispatch(const Event& ea, osgGA::GUIActionAdapter& aa, const osg::Object& o
         return Move(mouse);
     case Event::SCROLL:
         return Scroll(ea);
-    case Event::RESIZE:
-        return Resize(ea, aa);
     default:
         return false;
     }
 }
 } // namespace
 
-bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg::Object* object, osg::NodeVisitor*)
+bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg::Object* object, osg::NodeVisitor* visitor)
 {
-    if (!dynamic_cast<CeGuiDrawable*>(object))
+    const auto* drawable = dynamic_cast<CeGuiDrawable*>(object);
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    const bool isOwn = drawable && drawable == frame.drawable_;
+    if (!drawable || (isOwn && frame.IsOfOtherContext(ea)))
     {
         return false;
     }
     // The viewer's y axis points up, CEGUI's down.
     const Position mouse = {ea.getX(), static_cast<float>(ea.getWindowHeight()) - ea.getY()};
     InputState::Get().mousePoint = CPoint(static_cast<int>(mouse.x), static_cast<int>(mouse.y));
-    if (!CEGUI::System::getSingletonPtr())
+    const bool resized = ea.getEventType() == Event::RESIZE;
+    // A size event starts CEGUI when the interface waits for a context.
+    if (!drawable->IsInitialised() && !(isOwn && resized))
     {
         return false;
     }
+    const EventsKept events(visitor);
     ForgetTold();
     try
     {
-        return Dispatch(ea, aa, *object, mouse);
+        if (!resized)
+        {
+            const CallbackScope scope;
+            return Dispatch(ea, *object, mouse);
+        }
+        const CSize size = ViewSize(ea, aa);
+        // A minimised window has no size: there is nothing to lay out before it has one again.
+        if (size.cx > 0 && size.cy > 0)
+        {
+            CallbackScope::Run(CallbackScope::Request::Resize, [&frame, size] { frame.SizeView(size.cx, size.cy); });
+        }
     }
     catch (const CEGUI::Exception& failure)
     {

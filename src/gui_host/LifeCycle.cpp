@@ -4,10 +4,12 @@
 
 #include "../frame/FrameNames.h"
 #include "../panels/TitleEditDialog.h"
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/InputState.h"
+#include "../widgets/MessageLoops.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "FontInstallation.h"
@@ -16,6 +18,7 @@
 #include <KernelCommonUse/StringConvert.h>
 
 #include <CEGUI/Exceptions.h>
+#include <CEGUI/GUIContext.h>
 #include <CEGUI/ImageManager.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
@@ -26,6 +29,8 @@
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
 #include <optional>
+#include <string>
+#include <utility>
 
 namespace
 {
@@ -34,37 +39,42 @@ const char* const TitleFontFile = "youyuan.ttf";
 const wchar_t* const ToolBarFrame = L"TavBotCtrlFrame";
 const wchar_t* const LeftListFrame = L"TavLeftCtrlFrame";
 
-/// Of the context that CEGUI has been started in: its textures live there.
-osg::observer_ptr<osg::State> startedIn;
-
-/// Whether what CEGUI has made lives in another context than this one: in one that is closed, most likely.
-bool LivesElsewhere(const osg::GraphicsContext& context)
+/// Drops the OpenGL objects of the camera and all below it while their context is there, and takes its children away. The
+/// viewer's render graph would else keep objects of a context that is gone.
+void Empty(osg::Camera& camera, const osg::observer_ptr<osg::State>& drawnWith)
 {
-    return CEGUI::System::getSingletonPtr() && startedIn.get() != context.getState();
-}
-
-/// Ends CEGUI in its own context. Where that is gone its textures are gone, too, and no context may be current whose textures
-/// would be taken for them.
-void Finish(CeGuiDrawable& drawable, osg::GraphicsContext* present)
-{
-    if (present && LivesElsewhere(*present))
+    osg::ref_ptr<osg::State> state;
+    osg::GraphicsContext* context = drawnWith.lock(state) ? state->getGraphicsContext() : nullptr;
+    if (context && context->isRealized() && context->makeCurrent())
     {
-        present->releaseContext();
-        osg::ref_ptr<osg::State> own;
-        if (startedIn.lock(own) && own->getGraphicsContext() && own->getGraphicsContext()->isRealized())
-        {
-            own->getGraphicsContext()->makeCurrent();
-        }
+        camera.releaseGLObjects(state.get());
     }
-    drawable.Finish();
-    startedIn = nullptr;
+    camera.removeChildren(0, camera.getNumChildren());
 }
 
-void ReleaseDrawable(osg::ref_ptr<CeGuiDrawable>& drawable, osg::ref_ptr<osg::Camera>& camera)
+void MakeSingleThreaded(osgViewer::Viewer& viewer)
 {
-    drawable->Finish();
-    drawable = nullptr;
-    camera = nullptr;
+    if (viewer.getThreadingModel() != osgViewer::ViewerBase::SingleThreaded)
+    {
+        viewer.setThreadingModel(osgViewer::ViewerBase::SingleThreaded);
+        LogFailure("viewer made single-threaded", "input, drawing and interface belong to one thread");
+    }
+}
+
+/// Why CEGUI cannot start in the context of the viewer's camera.
+std::string Obstacle(osgViewer::Viewer* viewer)
+{
+    if (!viewer)
+    {
+        return "Init was given no viewer";
+    }
+    const osg::GraphicsContext* context = viewer->getCamera()->getGraphicsContext();
+    if (context)
+    {
+        return context->isRealized() ? "the context of the viewer's camera cannot be made current" : "the viewer is not realized";
+    }
+    return viewer->getNumSlaves() == 0 ? "the viewer's camera has no graphics context"
+                                       : "the viewer's camera has no graphics context; those of slave cameras are not used";
 }
 } // namespace
 
@@ -74,27 +84,28 @@ bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
     CloseGuiSystem();
     viewer_ = viewer;
     userType_ = userType;
+    if (viewer)
+    {
+        MakeSingleThreaded(*viewer);
+    }
     CreateGuiDrawable();
-    // The end of CEGUI unloads its XML parser, and with it the code of an exception that the parser has made: the host gets
-    // one of the library's own.
-    std::optional<CEGUI::String> failure;
     try
     {
-        InitGuiDrawable();
-    }
-    catch (const CEGUI::Exception& raised)
-    {
-        failure = raised.getMessage();
+        const osg::observer_ptr<CeGuiDrawable> started = drawable_;
+        CallbackScope::Run(CallbackScope::Request::Start,
+                           [this, started]
+                           {
+                               if (drawable_ && drawable_ == started.get())
+                               {
+                                   InitGuiDrawable();
+                               }
+                           });
     }
     catch (...)
     {
-        ReleaseDrawable(drawable_, hudCamera_);
+        drawable_ = nullptr;
+        hudCamera_ = nullptr;
         throw;
-    }
-    if (failure)
-    {
-        ReleaseDrawable(drawable_, hudCamera_);
-        throw CEGUI::FileIOException(*failure);
     }
     if (viewer && viewer->getCamera()->getViewport())
     {
@@ -113,12 +124,92 @@ bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
 
 void CeGuiMainFrame::InitGuiDrawable()
 {
-    if (drawable_ && MakeContextCurrent())
+    if (!drawable_)
     {
-        osg::State& state = *viewer_->getCamera()->getGraphicsContext()->getState();
-        drawable_->Init(static_cast<int>(state.getContextID()));
-        startedIn = &state;
+        return;
     }
+    if (!MakeContextCurrent())
+    {
+        LogFailure("interface not started before a size event finds a context", Obstacle(viewer_.get()));
+        return;
+    }
+    osg::State& state = *viewer_->getCamera()->getGraphicsContext()->getState();
+    // The end of CEGUI unloads its XML parser, and with it the code of an exception that the parser has made: the host gets
+    // one of the library's own.
+    std::optional<CEGUI::String> failure;
+    try
+    {
+        drawable_->Init(static_cast<int>(state.getContextID()));
+        guiState_ = &state;
+    }
+    catch (const CEGUI::Exception& raised)
+    {
+        failure = raised.getMessage();
+    }
+    catch (...)
+    {
+        drawable_->Finish();
+        throw;
+    }
+    if (failure)
+    {
+        drawable_->Finish();
+        throw CEGUI::FileIOException(*failure);
+    }
+}
+
+bool CeGuiMainFrame::HasGui() const
+{
+    return drawable_ && drawable_->IsInitialised();
+}
+
+bool CeGuiMainFrame::LivesElsewhere(const osg::GraphicsContext& context) const
+{
+    return CEGUI::System::getSingletonPtr() && guiState_.get() != context.getState();
+}
+
+bool CeGuiMainFrame::StartGui()
+{
+    const osgViewer::GraphicsWindow* window = ViewerWindow();
+    const bool realized = window && window->isRealized();
+    if (HasGui() && !(realized && LivesElsewhere(*window)))
+    {
+        return true;
+    }
+    if (!drawable_ || !realized)
+    {
+        return false;
+    }
+    try
+    {
+        if (HasGui())
+        {
+            // The host has closed its viewer's window and made another one.
+            FinishGui(*drawable_);
+        }
+        InitGuiDrawable();
+    }
+    catch (const CEGUI::Exception& failure)
+    {
+        LogPassing("interface not started", NameBytes(failure.getMessage()));
+    }
+    return HasGui();
+}
+
+void CeGuiMainFrame::FinishGui(CeGuiDrawable& drawable)
+{
+    osg::ref_ptr<osg::State> own;
+    osg::GraphicsContext* context = guiState_.lock(own) ? own->getGraphicsContext() : nullptr;
+    if (!context || !context->isRealized() || !context->makeCurrent())
+    {
+        // CEGUI's textures are gone with their context. No context may be current whose textures would be taken for them.
+        if (osgViewer::GraphicsWindow* present = ViewerWindow())
+        {
+            present->releaseContext();
+        }
+    }
+    drawable.Finish();
+    guiState_ = nullptr;
 }
 
 void CeGuiMainFrame::CloseGuiSystem()
@@ -127,43 +218,55 @@ void CeGuiMainFrame::CloseGuiSystem()
     {
         return;
     }
+    initialised_ = false;
+    const bool traversed = CallbackScope::IsActive();
+    const osg::ref_ptr<CeGuiDrawable> drawable = std::exchange(drawable_, nullptr);
+    const osg::ref_ptr<osg::Camera> camera = std::exchange(hudCamera_, nullptr);
+    drawable->retired_ = true;
+    CallbackScope::Run(CallbackScope::Request::Close,
+                       [this, drawable, camera, traversed] { TearDown(drawable, camera, traversed); });
     if (userType_ == GUI_USER_FULL)
     {
         CloseTitleEditDialog();
     }
-    MakeContextCurrent();
-    hudCamera_->removeChildren(0, hudCamera_->getNumChildren());
-    Finish(*drawable_, ViewerWindow());
-    drawable_ = nullptr;
-    hudCamera_ = nullptr;
+}
+
+void CeGuiMainFrame::TearDown(osg::ref_ptr<CeGuiDrawable> drawable, osg::ref_ptr<osg::Camera> camera, bool traversed)
+{
+    const osg::observer_ptr<osg::State> drawnWith = guiState_;
+    if (traversed)
+    {
+        // The viewer's traversal goes on over the camera and what is below it.
+        MessageLoops::Post([camera, drawnWith] { Empty(*camera, drawnWith); });
+    }
+    else
+    {
+        Empty(*camera, drawnWith);
+    }
+    FinishGui(*drawable);
     frameTable_.clear();
     bars_.clear();
     titleTextItem_ = -1;
     InputState::Release();
-    initialised_ = false;
 }
 
 void CeGuiMainFrame::ClearAllWindows()
 {
-    osgViewer::GraphicsWindow* window = ViewerWindow();
-    if (drawable_ && window && window->isRealized() && LivesElsewhere(*window))
-    {
-        // The host has closed its viewer's window and made another one.
-        Finish(*drawable_, window);
-        InitGuiDrawable();
-        CEGUI::System::getSingleton().notifyDisplaySizeChanged(
-            CEGUI::Sizef(static_cast<float>(windowWidth_), static_cast<float>(windowHeight_)));
-    }
-    CEGUI::System* system = CEGUI::System::getSingletonPtr();
-    if (!system || !MakeContextCurrent())
+    CallbackScope::Run(CallbackScope::Request::Clear, [this] { ClearFrame(); });
+}
+
+void CeGuiMainFrame::ClearFrame()
+{
+    if (!HasGui() || !StartGui() || !MakeContextCurrent())
     {
         return;
     }
+    CEGUI::System& system = CEGUI::System::getSingleton();
     const ParsingLocale locale;
-    system->removeAllEvents();
+    system.removeAllEvents();
     CeGuiToolBar::ForgetAllWindows();
     CEGUI::WindowManager::getSingleton().destroyAllWindows();
-    SkinResourceProvider& skin = *static_cast<SkinResourceProvider*>(system->getResourceProvider());
+    SkinResourceProvider& skin = *static_cast<SkinResourceProvider*>(system.getResourceProvider());
     const bool keepSkin = FileImagesets::TextureReuse::IsWanted() &&
                           FileImagesets::IsSkinImagesetPresent(FrameNames::SkinImageset) && skin.IsImagesetUnchanged();
     FileImagesets::DestroyAllImagesets(keepSkin ? FrameNames::SkinImageset : "");
@@ -184,6 +287,22 @@ void CeGuiMainFrame::ClearAllWindows()
     }
 }
 
+void CeGuiMainFrame::SizeView(int width, int height)
+{
+    StartGui();
+    CEGUI::System* system = CEGUI::System::getSingletonPtr();
+    if (!system)
+    {
+        return;
+    }
+    system->notifyDisplaySizeChanged(CEGUI::Sizef(static_cast<float>(width), static_cast<float>(height)));
+    SetWindowSize(static_cast<UINT>(width), static_cast<UINT>(height));
+    const FileImagesets::TextureReuse reuse;
+    ClearFrame();
+    BuildFrame();
+    system->getDefaultGUIContext().markAsDirty();
+}
+
 osg::ref_ptr<osg::Group> CeGuiMainFrame::GetGUINode()
 {
     return hudCamera_;
@@ -194,6 +313,12 @@ osgViewer::GraphicsWindow* CeGuiMainFrame::ViewerWindow()
     return viewer_.valid() && viewer_->getCamera()
                ? dynamic_cast<osgViewer::GraphicsWindow*>(viewer_->getCamera()->getGraphicsContext())
                : nullptr;
+}
+
+bool CeGuiMainFrame::IsOfOtherContext(const osgGA::GUIEventAdapter& event) const
+{
+    const osg::GraphicsContext* context = event.getGraphicsContext();
+    return context && viewer_.valid() && context != viewer_->getCamera()->getGraphicsContext();
 }
 
 bool CeGuiMainFrame::MakeContextCurrent()
@@ -216,6 +341,7 @@ void CeGuiMainFrame::NotifyHost(UINT code, LPARAM value)
 
 void CeGuiMainFrame::OnTimer(UINT_PTR nIDEvent)
 {
+    const CallbackScope scope;
     for (const auto& [name, bar] : frameTable_)
     {
         bar->OnHideTimer(nIDEvent);
@@ -224,6 +350,7 @@ void CeGuiMainFrame::OnTimer(UINT_PTR nIDEvent)
 
 void CeGuiMainFrame::OnMouseMove(UINT, CPoint point)
 {
+    const CallbackScope scope;
     static const CString toolBar = ToolBarFrame;
     static const CString leftList = LeftListFrame;
     const CeGuiToolBar* left = FindBar(leftList);

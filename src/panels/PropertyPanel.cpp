@@ -2,6 +2,7 @@
 // The property panel: two bars at the right edge that show the panel's frame and its list as pictures.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../widgets/CallbackScope.h"
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
@@ -68,6 +69,7 @@ void UpdateThumb(CeGuiToolBar& list)
 
 void CeGuiMainFrame::OpenPropertyDlg(void* button, bool open)
 {
+    const CallbackScope scope;
     propertyDlgOpen_ = open;
     if (!IsFrameBuilt())
     {
@@ -104,12 +106,12 @@ bool CeGuiMainFrame::IsNeedRefreshPropertyDlg(CPoint point)
 
 bool CeGuiMainFrame::IsFrameBuilt() const
 {
-    const CEGUI::System* system = CEGUI::System::getSingletonPtr();
-    return system && system->getDefaultGUIContext().getRootWindow();
+    return HasGui() && CEGUI::System::getSingleton().getDefaultGUIContext().getRootWindow();
 }
 
 bool CeGuiMainFrame::RefreshPropertyDlg()
 {
+    const CallbackScope scope;
     if (!MakeContextCurrent() || windowWidth_ < MinViewWidth || windowHeight_ < MinViewHeight || !IsFrameBuilt())
     {
         return false;

@@ -2,6 +2,7 @@
 #include "TitleEditDialog.h"
 
 #include "../resources/resource.h"
+#include "../widgets/MessageLoops.h"
 #include "../widgets/Module.h"
 #include "FontNames.h"
 
@@ -32,7 +33,7 @@ CString Translated(const char* key)
 
 void ShowMessage(const char* key)
 {
-    KWMessageBox(Translated(key), KW_INFORMATION, AfxGetMainWnd());
+    MessageLoops::Run([text = Translated(key)] { KWMessageBox(text, KW_INFORMATION, AfxGetMainWnd()); });
 }
 
 /// Dialog templates come from the library's own module while the object lives.

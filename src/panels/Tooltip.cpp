@@ -2,6 +2,7 @@
 // The one tooltip window.
 #include "TooltipEvents.h"
 
+#include "../widgets/CallbackScope.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
 #include "../widgets/Names.h"
@@ -35,6 +36,7 @@ CEGUI::Window* RootWindow()
 
 void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
 {
+    const CallbackScope scope;
     CEGUI::Window* root = RootWindow();
     if (!root)
     {
@@ -73,6 +75,7 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
 
 void CeGuiMainFrame::DestroyTooltipWindow()
 {
+    const CallbackScope scope;
     CEGUI::Window* root = RootWindow();
     if (!root || !root->isChild(TooltipWindow) || !MakeContextCurrent())
     {

@@ -21,7 +21,8 @@ const wchar_t* const LeaveFullSceneButton = L"TavFullTilteEscBtn";
 
 std::vector<CeGuiToolBar*>& LiveBars()
 {
-    static std::vector<CeGuiToolBar*> bars;
+    // Never destroyed: the bars of an interface that nobody closes end after the static objects of this file.
+    static auto& bars = *new std::vector<CeGuiToolBar*>;
     return bars;
 }
 

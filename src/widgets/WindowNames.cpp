@@ -83,7 +83,8 @@ CEGUI::Window* Find(const CEGUI::String& name)
 
 void Destroy(CEGUI::Window& window)
 {
-    window.removeAllEvents();
+    // Its subscriptions end here and are freed with the window: one of them may be the slot that is running.
+    window.setMutedState(true);
     if (CEGUI::Window* parent = window.getParent())
     {
         parent->removeChild(&window);

@@ -6,6 +6,9 @@
 
 #include <KernelCommonUse/StringConvert.h>
 
+#include <functional>
+#include <utility>
+
 using SceneMenuTest = EditingTest;
 
 TEST_F(SceneMenuTest, a_right_click_on_the_bare_scene_opens_it)
@@ -128,21 +131,150 @@ TEST_F(SceneMenuTest, a_parameter_names_another_file)
     EXPECT_EQ(Log().TakeMenus(), (Menus{{"77 另一个"}}));
 }
 
-TEST_F(SceneMenuTest, a_host_that_ends_the_interface_while_the_menu_is_open)
+namespace
 {
-    const auto former = Host().onMainWindowMessage;
-    Host().onMainWindowMessage = [&](UINT message, WPARAM wParam, LPARAM lParam)
+/// Acts once, in the message loop of the next menu.
+class InMenuLoop
+{
+public:
+    InMenuLoop(GuiHost& host, std::function<void()> act) : host_(host), former_(host.onMainWindowMessage)
     {
-        former(message, wParam, lParam);
-        if (message == WM_INITMENUPOPUP)
+        host_.onMainWindowMessage = [this, act](UINT message, WPARAM wParam, LPARAM lParam)
         {
-            Frame().ClearAllWindows();
-            Frame().SetCtrlBtnInfo({});
+            former_(message, wParam, lParam);
+            if (message == WM_INITMENUPOPUP && !acted_)
+            {
+                acted_ = true;
+                act();
+            }
+        };
+    }
+    ~InMenuLoop() { host_.onMainWindowMessage = former_; }
+    InMenuLoop(const InMenuLoop&) = delete;
+    InMenuLoop& operator=(const InMenuLoop&) = delete;
+    bool Acted() const { return acted_; }
+
+private:
+    GuiHost& host_;
+    std::function<void(UINT, WPARAM, LPARAM)> former_;
+    bool acted_ = false;
+};
+
+/// The scene's menu and a control button's, with a host that does everything in its loop.
+class OpenMenuTest : public EditingTest
+{
+protected:
+    /// Opens each of the menus, and calls the host's code in its loop.
+    void InEachMenu(const std::function<void()>& act)
+    {
+        const std::pair<Menus, std::function<void()>> menus[] = {{SceneMenu(), [] { RightClickScene(); }},
+                                                                 {ButtonMenu(), [] { RightClickEntry(First); }}};
+        for (const auto& [menu, open] : menus)
+        {
+            {
+                const InMenuLoop loop(Host(), act);
+                open();
+                EXPECT_TRUE(loop.Acted());
+            }
+            EXPECT_EQ(Log().TakeMenus(), menu);
+            Host().Frames(2);
+            if (!Frame().IsInit())
+            {
+                Host().Start();
+            }
+            Rebuild();
+            ShowList();
+            EXPECT_TRUE(Visible("TavTitleBackground"));
+            Host().Click(772, 25);
+            EXPECT_EQ(Host().TakeCodes(), (std::vector<WPARAM>{GUI_CMD_CLOSE}));
+            Rebuild();
+            ShowList();
         }
-    };
+    }
+};
+} // namespace
+
+TEST_F(OpenMenuTest, a_host_clears_the_windows_and_the_records)
+{
+    InEachMenu([] { Frame().ClearAllWindows(); });
+    const InMenuLoop loop(Host(),
+                          []
+                          {
+                              Frame().ClearAllWindows();
+                              Frame().SetCtrlBtnInfo({});
+                          });
     RightClickScene();
     EXPECT_EQ(Log().TakeMenus(), SceneMenu());
-    Host().onMainWindowMessage = former;
     Rebuild();
     EXPECT_TRUE(HasBar(L"TavLeftCtrlFrame"));
+}
+
+TEST_F(OpenMenuTest, a_host_ends_the_interface_and_draws_frames)
+{
+    InEachMenu(
+        []
+        {
+            Host().Close();
+            EXPECT_FALSE(Frame().IsInit());
+            Host().Viewer().frame();
+            Host().Viewer().frame();
+        });
+}
+
+TEST_F(OpenMenuTest, a_host_ends_the_interface_and_leaves_its_node_in_the_scene)
+{
+    const auto removeOldNodes = []
+    {
+        while (Host().Root().getNumChildren() > 0)
+        {
+            Host().Root().removeChild(0u);
+        }
+    };
+    InEachMenu(
+        [&]
+        {
+            Frame().CloseGuiSystem();
+            Host().Viewer().frame();
+            removeOldNodes();
+        });
+}
+
+TEST_F(OpenMenuTest, a_host_starts_the_interface_anew)
+{
+    InEachMenu(
+        []
+        {
+            Host().Close();
+            Host().InitOnly();
+            Host().Viewer().getEventQueue()->windowResize(0, 0, ViewWidth, ViewHeight);
+            Host().Viewer().frame();
+            Host().Viewer().frame();
+            EXPECT_TRUE(HasBar(L"TavTitleBackground"));
+        });
+}
+
+TEST_F(OpenMenuTest, a_host_sizes_the_view_and_draws_frames)
+{
+    InEachMenu(
+        []
+        {
+            Host().Viewer().getEventQueue()->windowResize(0, 0, ViewWidth, ViewHeight);
+            Host().Viewer().frame();
+            Host().Viewer().frame();
+            EXPECT_TRUE(HasBar(L"TavTitleBackground"));
+        });
+}
+
+TEST_F(OpenMenuTest, does_not_open_after_the_interface_has_ended)
+{
+    Host().MoveMouse(SceneX, SceneY);
+    PressRight(CPoint(SceneX, SceneY));
+    // The frame that brings the release comes before the message loop that opens the menu.
+    Host().Viewer().getEventQueue()->mouseButtonRelease(SceneX, SceneY, osgGA::GUIEventAdapter::RIGHT_MOUSE_BUTTON);
+    Host().Viewer().frame();
+    Host().Close();
+    EXPECT_EQ(Log().TakeMenus(), Menus{});
+    Host().Frames(1);
+    EXPECT_EQ(Log().TakeMenus(), Menus{});
+    Host().Start();
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // OpenGL contexts that are lost under the interface and made again, viewers in turn, and starts without an end.
 #include "FaultTest.h"
+#include "support/ViewWindow.h"
 
 #include <osg/Geode>
 #include <osg/Geometry>
 #include <osg/Image>
 #include <osg/Texture2D>
-#include <osgViewer/api/Win32/GraphicsWindowWin32>
 
 #include <memory>
 
@@ -33,36 +33,6 @@ osg::ref_ptr<osg::Node> TexturedWall()
     state.setMode(GL_LIGHTING, osg::StateAttribute::OFF);
     return wall;
 }
-
-/// A window in the host's main window, with a context of its own.
-class ViewWindow
-{
-public:
-    ViewWindow(HWND parent, int width, int height)
-        : window_(CreateWindowExW(0, L"NxGuiTestView", L"", WS_CHILD | WS_VISIBLE, 0, 0, width, height, parent, nullptr,
-                                  GetModuleHandleW(nullptr), nullptr))
-    {
-        const osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
-        traits->windowingSystemPreference = "Win32";
-        traits->displayNum = 0;
-        traits->screenNum = 0;
-        traits->x = 0;
-        traits->y = 0;
-        traits->width = width;
-        traits->height = height;
-        traits->doubleBuffer = true;
-        traits->windowDecoration = false;
-        traits->inheritedWindowData = new osgViewer::GraphicsWindowWin32::WindowData(window_);
-        traits->setInheritedWindowPixelFormat = true;
-        context_ = osg::GraphicsContext::createGraphicsContext(traits);
-    }
-    osg::GraphicsContext* Context() { return context_; }
-    HWND Window() const { return window_; }
-
-private:
-    HWND window_;
-    osg::ref_ptr<osg::GraphicsContext> context_;
-};
 
 class Contexts : public FaultTest
 {

@@ -10,9 +10,27 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 
+#include <NxOsgCeGui/TitleDialog.h>
+
+#include <osg/GLExtensions>
+#include <osg/GLObjects>
+#include <osg/Program>
+
 namespace
 {
 using LifeCycle = HostedFrame;
+
+bool initialisedAtDestroy = false;
+WNDPROC formerProcedure = nullptr;
+
+LRESULT CALLBACK SeeDestroy(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_DESTROY)
+    {
+        initialisedAtDestroy = CeGuiMainFrame::GetInstance()->IsInit();
+    }
+    return CallWindowProcW(formerProcedure, window, message, wParam, lParam);
+}
 
 bool Shown(GuiHost& host)
 {
@@ -93,6 +111,33 @@ TEST_F(LifeCycle, close_takes_the_interface_out_of_the_scene_and_cegui_down)
     // The viewer lets go of what it drew last a few frames later.
     Host().Frames(4);
     EXPECT_FALSE(drawable.valid());
+}
+
+TEST_F(LifeCycle, close_drops_the_drawables_opengl_objects_while_their_context_is_there)
+{
+    osg::State& state = *Host().Viewer().getCamera()->getGraphicsContext()->getState();
+    const osg::ref_ptr<osg::StateSet> stateSet = Drawable().getStateSet();
+    const auto* program = static_cast<const osg::Program*>(stateSet->getAttribute(osg::StateAttribute::PROGRAM));
+    ASSERT_NE(program, nullptr);
+    const unsigned int handle = program->getPCP(state)->getHandle();
+    MakeCurrent();
+    ASSERT_TRUE(state.get<osg::GLExtensions>()->glIsProgram(handle));
+    Frame().CloseGuiSystem();
+    MakeCurrent();
+    osg::flushAllDeletedGLObjects(state.getContextID());
+    EXPECT_FALSE(state.get<osg::GLExtensions>()->glIsProgram(handle));
+}
+
+TEST_F(LifeCycle, close_has_ended_before_the_title_dialog_goes)
+{
+    OpenTitleEditDialog();
+    const HWND dialog = FindWindowW(L"#32770", nullptr);
+    ASSERT_NE(dialog, nullptr);
+    initialisedAtDestroy = true;
+    formerProcedure = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&SeeDestroy)));
+    Host().Close();
+    EXPECT_FALSE(IsWindow(dialog));
+    EXPECT_FALSE(initialisedAtDestroy);
 }
 
 TEST_F(LifeCycle, close_with_the_camera_still_in_the_scene_draws_nothing_more)

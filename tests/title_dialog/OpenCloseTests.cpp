@@ -230,6 +230,48 @@ TEST_F(OpenCloseTest, it_says_so_when_it_cannot_be_created)
     EXPECT_TRUE(IsShown());
 }
 
+TEST_F(OpenCloseTest, the_host_sizes_the_view_and_draws_frames_while_the_message_is_up_that_a_double_click_led_to)
+{
+    CWnd gone;
+    gone.m_hWnd = reinterpret_cast<HWND>(static_cast<INT_PTR>(0x7FFF0));
+    CWnd* const main = AfxGetApp()->m_pMainWnd;
+    for (const bool ends : {false, true})
+    {
+        AfxGetApp()->m_pMainWnd = &gone;
+        MessageBoxRead message;
+        const auto read = message.Read();
+        {
+            const PopupAnswer answer(
+                [&](HWND popup)
+                {
+                    Host().Viewer().getEventQueue()->windowResize(0, 0, ViewWidth, ViewHeight);
+                    Host().Viewer().frame();
+                    Host().Viewer().frame();
+                    if (ends)
+                    {
+                        Host().Close();
+                        Host().Viewer().frame();
+                    }
+                    read(popup);
+                });
+            Host().DoubleClick(60, 25);
+            AfxGetApp()->m_pMainWnd = main;
+            EXPECT_EQ(answer.Answered(), 1);
+        }
+        EXPECT_EQ(Utf8(message.text), Utf8(Translated("LKEY10266.")));
+        EXPECT_EQ(DialogCount(), 0);
+        if (ends)
+        {
+            Host().Start();
+        }
+        Host().TakeMessages();
+        OpenByDoubleClick();
+        EXPECT_TRUE(IsShown());
+        CloseTitleEditDialog();
+    }
+    gone.m_hWnd = nullptr;
+}
+
 TEST_F(OpenCloseTest, the_modules_resources_are_what_they_were)
 {
     const HINSTANCE former = AfxGetResourceHandle();
