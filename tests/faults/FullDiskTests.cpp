@@ -151,8 +151,8 @@ protected:
         for (const CString& file : bitmaps_)
         {
             EXPECT_TRUE(IsWholeBitmap(ReadBytes(AppDir() + file))) << Utf8(file);
-            EXPECT_EQ(GetFileAttributesW(AppDir() + file + L".part"), INVALID_FILE_ATTRIBUTES) << Utf8(file);
         }
+        EXPECT_EQ(UnfinishedFiles(AppDir()), Lines{});
         EXPECT_EQ(Without(log, ".bmp"), Lines{});
         EXPECT_TRUE(Stands());
         return !log.empty();

@@ -56,6 +56,17 @@ int CountLogLines(const std::string& text)
         std::count_if(lines.begin(), lines.end(), [&](const std::string& line) { return line.find(text) != std::string::npos; }));
 }
 
+bool HasUnfinishedFile(const CString& folder)
+{
+    WIN32_FIND_DATAW found;
+    const HANDLE find = FindFirstFileW(folder + L"~*.part*", &found);
+    if (find != INVALID_HANDLE_VALUE)
+    {
+        FindClose(find);
+    }
+    return find != INVALID_HANDLE_VALUE;
+}
+
 std::vector<std::uint8_t> ReadBytes(const CString& path)
 {
     std::vector<std::uint8_t> bytes;
@@ -83,6 +94,34 @@ bool WriteBytes(const CString& path, const std::vector<std::uint8_t>& bytes)
         WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
     CloseHandle(file);
     return complete;
+}
+
+bool StartAgain(const wchar_t* filter)
+{
+    wchar_t program[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    CString command;
+    command.Format(L"\"%s\" --gtest_brief=1 --gtest_output= --gtest_also_run_disabled_tests --gtest_filter=%s", program, filter);
+    STARTUPINFOW start = {};
+    start.cb = sizeof(start);
+    PROCESS_INFORMATION process = {};
+    const BOOL started = CreateProcessW(program, command.GetBuffer(command.GetLength()), nullptr, nullptr, FALSE, 0, nullptr,
+                                        nullptr, &start, &process);
+    if (started)
+    {
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    return started != FALSE;
+}
+
+bool WaitForFile(const CString& path)
+{
+    for (int tries = 0; tries < 1200 && GetFileAttributesW(path) == INVALID_FILE_ATTRIBUTES; ++tries)
+    {
+        Sleep(50);
+    }
+    return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
 }
 
 FileTaken::FileTaken(const CString& path) : path_(path)

@@ -9,6 +9,7 @@
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/IniFile.h>
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/SystemUtility.h>
 
 #include <cstdlib>
@@ -25,20 +26,6 @@ const wchar_t* const SettingsFile = L"publication.ini";
 const wchar_t* const StartFile = L"start.cmd";
 const wchar_t* const Section = L"Publication";
 const char* const Utf8Mark = "\xEF\xBB\xBF";
-
-bool WriteFileBytes(const CString& path, const std::string& bytes)
-{
-    const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-    {
-        return false;
-    }
-    DWORD written = 0;
-    const bool complete =
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
-    CloseHandle(file);
-    return complete;
-}
 
 CString PrintedPage()
 {
@@ -89,7 +76,7 @@ bool CopyStarters(const CString& folder)
     {
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
         {
-            copied = CopyFileW(starters + found.cFileName, folder + L"\\" + found.cFileName, FALSE) && copied;
+            copied = WholeFile::Copy(starters + found.cFileName, folder + L"\\" + found.cFileName) && copied;
         }
     } while (FindNextFileW(find, &found));
     FindClose(find);
@@ -127,7 +114,7 @@ CString PrintStartPage(const StartPageTexts& texts)
     const std::string ini = Utf8Mark + std::string("[发布独立程序文字]\r\n标题=") + CString2string(texts.title) +
                             "\r\n项目名称=" + CString2string(texts.projectName) +
                             "\r\n单位名称=" + CString2string(texts.unitName) + "\r\n";
-    if (!WriteFileBytes(TextsFile(), ini))
+    if (!WholeFile::Write(TextsFile(), ini))
     {
         return CString();
     }
@@ -152,9 +139,9 @@ CString WritePublication(const CString& folder, const Publication& publication)
 {
     CreateDirectoryW(FileOp::GetAppPath() + L"published", nullptr);
     CreateDirectoryW(folder, nullptr);
-    const bool written = CopyFileW(publication.startPage, folder + L"\\" + PictureFile, FALSE) &&
-                         WriteFileBytes(folder + L"\\" + SettingsFile, Settings(publication)) &&
-                         WriteFileBytes(folder + L"\\" + StartFile, StartScript()) && CopyStarters(folder);
+    const bool written = WholeFile::Copy(publication.startPage, folder + L"\\" + PictureFile) &&
+                         WholeFile::Write(folder + L"\\" + SettingsFile, Settings(publication)) &&
+                         WholeFile::Write(folder + L"\\" + StartFile, StartScript()) && CopyStarters(folder);
     return written ? CString() : Say({L"无法写入 ", L"cannot be written: "}) + folder;
 }
 

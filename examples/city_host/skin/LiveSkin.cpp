@@ -4,6 +4,7 @@
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/ServiceLog.h>
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/ParamConfig.h>
 #include <NxConfig/SystemUtility.h>
 
@@ -31,8 +32,8 @@ bool Replace(const CString& from, const CString& to)
 {
     const CString former = to + FormerExtension;
     DeleteFileW(former);
-    const bool kept = !FileOp::FileExist(to) || CopyFileW(to, former, FALSE);
-    return kept && CopyFileW(from, to, FALSE);
+    const bool kept = !FileOp::FileExist(to) || WholeFile::Copy(to, former);
+    return kept && WholeFile::Copy(from, to);
 }
 
 bool CopySkin(const CString& from, const CString& to)
@@ -43,7 +44,7 @@ bool CopySkin(const CString& from, const CString& to)
     for (const auto& [file, stamp] : files)
     {
         const auto same = there.find(file);
-        if ((same == there.end() || !(same->second == stamp)) && !CopyFileW(from + file, to + file, FALSE))
+        if ((same == there.end() || !(same->second == stamp)) && !WholeFile::Copy(from + file, to + file))
         {
             return false;
         }
