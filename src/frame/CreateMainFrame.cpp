@@ -7,6 +7,7 @@
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
+#include "../widgets/GuiResourceProvider.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "../widgets/WindowNames.h"
@@ -60,7 +61,8 @@ bool CeGuiMainFrame::CreateMainFrame()
     catch (const CEGUI::Exception& failure)
     {
         ReleaseFailedFrame();
-        LogPassing("frame not built", NameBytes(failure.getMessage()));
+        const auto& files = *static_cast<GuiResourceProvider*>(CEGUI::System::getSingleton().getResourceProvider());
+        LogPassing("frame not built", NameBytes(failure.getMessage()), files.SkinTexts());
         throw;
     }
 }

@@ -138,9 +138,9 @@ CString AppDir();
 /// The CEGUI resource directory in it.
 CString SkinDir();
 
-/// Lines of CEGUI.log that the library wrote itself ("NxOsgCeGui: ...").
+/// Lines of CEGUI.log that the library wrote itself ("NxOsgCeGui: ...") since the last start.
 std::vector<std::string> LogLines();
-/// Lines of the log that hold a text.
+/// Those of them that hold a text.
 int CountLogLines(const std::string& text);
 
 /// Starts the tests of a filter in another process of this program, in the same folder. Those are disabled, so that they run only

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 
 bool operator==(Pixel a, Pixel b)
 {
@@ -47,6 +48,35 @@ CString AppDir()
 CString SkinDir()
 {
     return AppDir() + SystemUtility::GetCeguiResRelPath();
+}
+
+std::vector<std::string> LogLines()
+{
+    // Starts append to the file, and most callers only want the last few lines of it.
+    static std::streamoff seen = 0;
+    static std::vector<std::string> lines;
+    std::ifstream log("CEGUI.log", std::ios::binary | std::ios::ate);
+    if (log.tellg() < seen)
+    {
+        // Begun anew.
+        seen = 0;
+        lines.clear();
+    }
+    log.seekg(seen);
+    for (std::string line; std::getline(log, line);)
+    {
+        seen += static_cast<std::streamoff>(line.size()) + 1;
+        const std::size_t own = line.find("NxOsgCeGui: ");
+        if (own != std::string::npos)
+        {
+            lines.push_back(line.substr(own));
+        }
+        else if (line.find("NxOsgCeGui starts") != std::string::npos)
+        {
+            lines.clear();
+        }
+    }
+    return lines;
 }
 
 int CountLogLines(const std::string& text)
