@@ -5,7 +5,7 @@
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/WholeFile.h>
 
-#include <cwchar>
+#include <cstdlib>
 
 namespace
 {
@@ -75,7 +75,9 @@ TEST(WholeFiles, HaveNamesOfTheirOwn)
     EXPECT_NE(Utf8(first.Unfinished()), Utf8(second.Unfinished()));
     // Of a process of the same number on another machine: a file and a folder.
     const CString stem = second.Unfinished().Left(second.Unfinished().ReverseFind(L'-') + 1);
-    const unsigned last = static_cast<unsigned>(std::wcstoul(second.Unfinished().GetString() + stem.GetLength(), nullptr, 16));
+    const std::string number = Utf8(second.Unfinished().Mid(stem.GetLength()));
+    const auto last = static_cast<unsigned>(std::strtoul(number.c_str(), nullptr, 16));
+    ASSERT_GT(last, 0u);
     CString name;
     name.Format(L"%s%x.part.txt", stem.Mid(folder.Path().GetLength()).GetString(), last + 1);
     folder.Write(name, "another's");
