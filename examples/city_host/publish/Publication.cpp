@@ -8,6 +8,8 @@
 
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/IniFile.h>
+#include <KernelCommonUse/MultiLanguage.h>
+#include <KernelCommonUse/ServiceLog.h>
 #include <KernelCommonUse/StringConvert.h>
 #include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/SystemUtility.h>
@@ -83,6 +85,18 @@ bool CopyStarters(const CString& folder)
     return copied;
 }
 
+/// @param settings file that the language comes from
+CString LanguageOf(const CString& language, const CString& settings)
+{
+    if (CMultiLanguageMgr::IsTableName(language))
+    {
+        return language;
+    }
+    ServiceLog("The publication's language \"" + CString2string(language) +
+               "\" is not the name of a table: " + CString2string(settings));
+    return CString();
+}
+
 double Number(CIniFile& ini, const wchar_t* key)
 {
     return std::strtod(CString2string(ini.GetKeyValue(Section, key)).c_str(), nullptr);
@@ -156,7 +170,7 @@ Publication ReadPublication(const CString& folder)
     ini.SetPath(path);
     Publication publication;
     publication.startPage = folder + L"\\" + PictureFile;
-    publication.language = ini.GetKeyValue(Section, L"Language");
+    publication.language = LanguageOf(ini.GetKeyValue(Section, L"Language"), path);
     publication.title = ini.GetKeyValue(Section, L"Title");
     publication.titleFont = ini.GetKeyValue(Section, L"TitleFont");
     publication.titleColor = static_cast<COLORREF>(Number(ini, L"TitleColor"));

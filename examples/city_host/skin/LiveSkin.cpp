@@ -6,7 +6,6 @@
 #include <KernelCommonUse/StringConvert.h>
 #include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/ParamConfig.h>
-#include <NxConfig/SystemUtility.h>
 
 #include <algorithm>
 
@@ -22,11 +21,6 @@ const wchar_t* const CopyFolder = L"skins_in_use\\";
 /// What was in the copy before, until the interface has started with the new file.
 const wchar_t* const FormerExtension = L".former";
 
-CString ResourceFolder()
-{
-    return SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath();
-}
-
 /// The file's new bytes in place of the old ones, which are kept beside it.
 bool Replace(const CString& from, const CString& to)
 {
@@ -38,6 +32,10 @@ bool Replace(const CString& from, const CString& to)
 
 bool CopySkin(const CString& from, const CString& to)
 {
+    if (from.CompareNoCase(to) == 0)
+    {
+        return false;
+    }
     MakeFolders(to + L"new_skin\\");
     const SkinFiles files = ListSkin(from);
     SkinFiles there = ListSkin(to);
@@ -66,8 +64,14 @@ CString LiveSkin::ConfiguredFolder()
 
 LiveSkin::LiveSkin(const CString& folder) : folder_(folder)
 {
+    // What is no folder of a skin's own is not copied: a copy takes the name of the folder, and loses what that does not hold.
+    const CString resolved = ResolveSkinFolder(folder);
+    if (!resolved.IsEmpty())
+    {
+        folder_ = resolved;
+    }
     const CString copy = CString(CopyFolder) + Name() + L"\\";
-    if (CopySkin(folder_, ResourceFolder() + copy))
+    if (!resolved.IsEmpty() && CopySkin(folder_, ResourceFolder() + copy))
     {
         copy_ = ResourceFolder() + copy;
         CParamConfig::getInstance()->setStringParam(SkinParameter, _w2a(copy));
