@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Options.h"
 
-#include <NxConfig/SystemUtility.h>
+#include "skin/SkinFolder.h"
 
 #include <shellapi.h>
 
@@ -89,18 +89,8 @@ bool SetLanguage(const CString& value, Options& options)
 
 bool SetSkin(const CString& value, Options& options)
 {
-    options.skinFolder = value;
-    options.skinFolder.Replace(L'/', L'\\');
-    if (options.skinFolder.Find(L'\\') < 0)
-    {
-        // The name of a skin beside the others.
-        options.skinFolder = SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath() + L"cegui\\" + value;
-    }
-    if (options.skinFolder[options.skinFolder.GetLength() - 1] != L'\\')
-    {
-        options.skinFolder += L'\\';
-    }
-    return !value.IsEmpty();
+    options.skinFolder = ResolveSkinFolder(value);
+    return !options.skinFolder.IsEmpty();
 }
 
 bool SetSamples(const CString& value, Options& options)

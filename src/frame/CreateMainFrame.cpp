@@ -8,6 +8,7 @@
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
+#include "../widgets/GuiResourceProvider.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
 #include "../widgets/WindowNames.h"
@@ -74,7 +75,8 @@ bool CeGuiMainFrame::BuildFrame()
     catch (const CEGUI::Exception& failure)
     {
         ReleaseFailedFrame();
-        LogPassing("frame not built", NameBytes(failure.getMessage()));
+        const auto& files = *static_cast<GuiResourceProvider*>(CEGUI::System::getSingleton().getResourceProvider());
+        LogPassing("frame not built", NameBytes(failure.getMessage()), files.SkinTexts());
         throw;
     }
 }

@@ -49,11 +49,17 @@ void SubscribeTitle(CEGUI::Window& window)
     window.subscribeEvent(CEGUI::Window::EventMouseButtonUp, CEGUI::SubscriberSlot(&OnTitleButtonUp));
     window.subscribeEvent(CEGUI::Window::EventMouseDoubleClick, CEGUI::SubscriberSlot(&OnTitleDoubleClick));
 }
+/// A title without a font family is drawn in the default one: without its item no later change could bring it back.
+const CString& DrawnFace(const CString& face, const CString& preferred)
+{
+    return face.IsEmpty() ? preferred : face;
+}
 } // namespace
 
 CSize CeGuiMainFrame::SceneTitleSize() const
 {
-    const CSize size = MeasureTextExtent(sceneTitleFontStyle_, static_cast<int>(sceneTitleFontHeight_), sceneTitle_);
+    const CSize size = MeasureTextExtent(DrawnFace(sceneTitleFontStyle_, preferredFontFace_),
+                                         static_cast<int>(sceneTitleFontHeight_), sceneTitle_);
     // An empty title keeps a place, and so does one in a font that is not there: another font then brings it back.
     return size.cy > 0 ? size : CSize(EmptyTitleSize);
 }
@@ -63,7 +69,7 @@ void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)
     const CSize size = SceneTitleSize();
     const RECT rect = {TextLeft, (titleBarHeight_ - size.cy) / 2, TextLeft + size.cx, (titleBarHeight_ + size.cy) / 2};
     titleTextItem_ = bar.AddTextImage(rect, FrameNames::TitleText, sceneTitle_, static_cast<UINT>(sceneTitleFontHeight_),
-                                      sceneTitleFontStyle_, sceneTitleColor_);
+                                      DrawnFace(sceneTitleFontStyle_, preferredFontFace_), sceneTitleColor_);
     if (titleTextItem_ >= 0)
     {
         CEGUI::Window& text = *bar.items[static_cast<std::size_t>(titleTextItem_)].window;

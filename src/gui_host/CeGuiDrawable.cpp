@@ -37,7 +37,6 @@ namespace
 {
 const char* const SkinGroup = "skindir";
 const char* const SchemeFile = "TavLookSkin.scheme";
-const char* const LogFile = "CEGUI.log";
 const char* const SkinParameter = "CEGUI_SkinDir";
 
 bool ForgetDestroyedWindow(const CEGUI::EventArgs& args)
@@ -131,8 +130,9 @@ void CeGuiDrawable::SetupCeGui()
     renderer.enableExtraStateSettings(true);
     resourceProvider_ = std::make_shared<SkinResourceProvider>();
     imageCodec_ = std::make_shared<GuiImageCodec>();
-    GuiLog::Begin(LogFile);
-    system_ = &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", LogFile);
+    GuiLog::Begin();
+    system_ =
+        &CEGUI::System::create(*renderer_, resourceProvider_.get(), nullptr, imageCodec_.get(), nullptr, "", GuiLog::FileName);
     renderer.DrawTogether(system_->getDefaultGUIContext());
     // CEGUI's end takes away whichever there is.
     delete CEGUI::GlobalEventSet::getSingletonPtr();

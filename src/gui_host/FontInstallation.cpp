@@ -7,6 +7,7 @@
 
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 
 #include <windows.h>
 
@@ -14,8 +15,6 @@ namespace
 {
 // The registry's names do not tell lower case from upper.
 const wchar_t* const FontListKey = L"SOFTWARE\\Microsoft\\windows NT\\CurrentVersion\\Fonts";
-/// Added to the copy's name while it is being written.
-const wchar_t* const Unfinished = L".part";
 
 CString SystemFontFolder()
 {
@@ -28,9 +27,10 @@ CString SystemFontFolder()
 /// the system is asked to use the font.
 void CopyWhole(const CString& source, const CString& target)
 {
-    if (!CopyFileW(source, target + Unfinished, FALSE) || !MoveFileExW(target + Unfinished, target, 0))
+    WholeFile file(target);
+    if (CopyFileW(source, file.Unfinished(), FALSE))
     {
-        DeleteFileW(target + Unfinished);
+        file.CommitNew();
     }
 }
 

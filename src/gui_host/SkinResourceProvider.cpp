@@ -54,8 +54,8 @@ bool SkinResourceProvider::IsImagesetUnchanged() const
 std::string SkinResourceProvider::Naming(const CEGUI::String& message) const
 {
     const std::string text = NameBytes(message);
-    // An imageset's picture is read while the imageset is being parsed.
-    const std::string& file = text.rfind("XML", 0) == 0 ? lastXml_ : lastFile_;
+    // An imageset's picture is read while the imageset is being parsed, and a file without a name is asked for by a text.
+    const std::string& file = text.rfind("XML", 0) == 0 || lastFile_.empty() ? lastXml_ : lastFile_;
     return text.find(file) == std::string::npos ? text + " (" + file + ")" : text;
 }
 

@@ -5,6 +5,7 @@
 #include "../widgets/FailureLog.h"
 
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/SystemUtility.h>
 
 #include <atlimage.h>
@@ -19,8 +20,6 @@ constexpr POINT TitlePlace = {41, 12};     // left and top
 constexpr POINT ProjectPlace = {250, 158}; // centre and bottom
 constexpr POINT UnitPlace = {250, 246};
 constexpr int FontWeight = 800;
-/// Added to a file's name while it is written; ends in the kind of picture that it is.
-const wchar_t* const Unfinished = L".part.bmp";
 
 struct DeleteFont
 {
@@ -55,30 +54,20 @@ private:
     HDC dc_;
 };
 
-/// Gives a finished file its name. A write-protected file under that name stays, also where a new name would push it out.
-bool PutInPlace(const CString& path)
-{
-    const DWORD attributes = GetFileAttributesW(path);
-    const bool locked = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
-    return !locked && MoveFileExW(path + Unfinished, path, MOVEFILE_REPLACE_EXISTING);
-}
-
-/// A copy that is whole or not there: what stands under the target's name is replaced at the end only.
 void Replace(const CString& source, const CString& target)
 {
-    if (!CopyFileW(source, target + Unfinished, FALSE) || !PutInPlace(target))
+    if (!WholeFile::Copy(source, target))
     {
         LogFailure("start page picture not copied", CString2string(source));
-        DeleteFileW(target + Unfinished);
     }
 }
 
 void Save(const CImage& image, const CString& path)
 {
-    if (FAILED(image.Save(path + Unfinished)) || !PutInPlace(path))
+    WholeFile file(path);
+    if (FAILED(image.Save(file.Unfinished())) || !file.Commit())
     {
         LogFailure("start page not written", CString2string(path));
-        DeleteFileW(path + Unfinished);
     }
 }
 } // namespace

@@ -1,23 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "FailureLog.h"
 
+#include "GuiLog.h"
+
 #include <KernelCommonUse/ServiceLog.h>
-#include <KernelCommonUse/StringConvert.h>
 
 #include <CEGUI/Logger.h>
 
-#include <windows.h>
+#include <algorithm>
 
 namespace
 {
-void WriteLine(const std::string& line)
+void WriteLine(std::string line)
 {
+    // Some messages of CEGUI have several.
+    std::replace(line.begin(), line.end(), '\n', ' ');
     if (CEGUI::Logger* logger = CEGUI::Logger::getSingletonPtr())
     {
         logger->logEvent(CEGUI::String(reinterpret_cast<const CEGUI::utf8*>(line.c_str())), CEGUI::Errors);
         return;
     }
-    OutputDebugStringA((strUtf8ToAnsi(line) + "\n").c_str());
+    GuiLog::Append(line);
 }
 
 std::string& ToldMessage()
@@ -43,11 +46,11 @@ void ForgetTold()
     ToldMessage().clear();
 }
 
-void LogPassing(const std::string& what, const std::string& message)
+void LogPassing(const std::string& what, const std::string& message, const std::string& details)
 {
     if (message != ToldMessage())
     {
-        LogRaised(what, message, message);
+        LogRaised(what, message + details, message);
     }
 }
 

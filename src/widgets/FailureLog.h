@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// Writes one line to CEGUI's log, or to the debugger's output while CEGUI is not there: what failed, and on which file or
-/// name, so that a user can mend it.
+/// Writes one line to CEGUI's log, whose file is the same while CEGUI is not running: what failed, and on which file or name, so
+/// that a user can mend it.
 /// @param what for instance "picture not loaded"
 /// @param name file or name that it failed on, UTF-8
 void LogFailure(const std::string& what, const std::string& name);
@@ -15,8 +15,9 @@ void LogRaised(const std::string& what, const std::string& name, const std::stri
 
 /// For those places: one line with the exception's message, unless it has been told since the last `ForgetTold`, which
 /// such a place calls before it begins.
+/// @param details added to the message in the line
 void ForgetTold();
-void LogPassing(const std::string& what, const std::string& message);
+void LogPassing(const std::string& what, const std::string& message, const std::string& details = std::string());
 
 /// For a place where such an exception ends: one line with what was left undone, unless the exception was told where it was
 /// raised, with the file to mend.

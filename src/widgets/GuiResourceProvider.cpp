@@ -6,10 +6,23 @@
 
 #include <CEGUI/Exceptions.h>
 
+namespace
+{
+bool EndsIn(const std::string& name, const std::string& extension)
+{
+    return name.size() > extension.size() && name.compare(name.size() - extension.size(), extension.size(), extension) == 0;
+}
+} // namespace
+
 void GuiResourceProvider::loadRawDataContainer(const CEGUI::String& filename, CEGUI::RawDataContainer& output,
                                                const CEGUI::String& resourceGroup)
 {
     lastRead_ = Stamp(filename, resourceGroup);
+    const std::string name = NameBytes(filename);
+    if (EndsIn(name, ".scheme") || EndsIn(name, ".looknfeel"))
+    {
+        skinTexts_.insert(name);
+    }
     if (lastRead_.file.folder)
     {
         // Some systems open a folder like a file, and give it a length that no memory has.
@@ -19,6 +32,16 @@ void GuiResourceProvider::loadRawDataContainer(const CEGUI::String& filename, CE
     static const CEGUI::String WholePath = "whole path";
     DefaultResourceProvider::loadRawDataContainer(CEGUI::String(reinterpret_cast<const CEGUI::utf8*>(lastRead_.path.c_str())),
                                                   output, WholePath);
+}
+
+std::string GuiResourceProvider::SkinTexts() const
+{
+    std::string texts;
+    for (const std::string& name : skinTexts_)
+    {
+        texts += (texts.empty() ? " (" : ", ") + name;
+    }
+    return texts.empty() ? texts : texts + ")";
 }
 
 FileStamp GuiResourceProvider::Stamp(const CEGUI::String& filename, const CEGUI::String& resourceGroup) const

@@ -5,6 +5,9 @@
 
 #include <CEGUI/DefaultResourceProvider.h>
 
+#include <set>
+#include <string>
+
 /// CEGUI's default provider, which takes files of a resource group by Win32 paths and by names in the narrow form that the
 /// interface's names have.
 class GuiResourceProvider : public CEGUI::DefaultResourceProvider
@@ -17,7 +20,11 @@ public:
     FileStamp Stamp(const CEGUI::String& filename, const CEGUI::String& resourceGroup) const;
     /// The file that was asked for last, from before it was read.
     const FileStamp& LastRead() const { return lastRead_; }
+    /// The schemes and looks that have been read, which say what windows there are: " (a.scheme, b.looknfeel)". Empty without
+    /// any.
+    std::string SkinTexts() const;
 
 private:
     FileStamp lastRead_;
+    std::set<std::string> skinTexts_;
 };

@@ -3,6 +3,8 @@
 
 #include "BmpFile.h"
 
+#include <KernelCommonUse/WholeFile.h>
+
 #include <algorithm>
 #include <cwctype>
 #include <map>
@@ -73,7 +75,7 @@ gp::Bitmap Indexed(gp::GpBitmap* bitmap)
 
 bool Encode(gp::GpBitmap* bitmap, const CString& path, const CLSID& clsid)
 {
-    return bitmap && gp::GdipSaveImageToFile(bitmap, path, &clsid, nullptr) == gp::Ok;
+    return bitmap && !path.IsEmpty() && gp::GdipSaveImageToFile(bitmap, path, &clsid, nullptr) == gp::Ok;
 }
 } // namespace
 
@@ -143,15 +145,10 @@ bool GetEncoderForPath(const CString& path, CLSID& clsid)
 
 bool SaveBitmap(gp::GpBitmap* bitmap, const CString& path, const CLSID& clsid)
 {
-    const CString unfinished = path + L".part";
+    WholeFile file(path);
     const CString extension = GetFileExtension(path);
-    const bool written = extension == L"bmp"   ? WriteBmpFile(bitmap, unfinished)
-                         : extension == L"gif" ? Encode(Indexed(bitmap).get(), unfinished, clsid)
-                                               : Encode(bitmap, unfinished, clsid);
-    if (written && MoveFileExW(unfinished, path, MOVEFILE_REPLACE_EXISTING))
-    {
-        return true;
-    }
-    DeleteFileW(unfinished);
-    return false;
+    const bool written = extension == L"bmp"   ? WriteBmpFile(bitmap, file.Unfinished())
+                         : extension == L"gif" ? Encode(Indexed(bitmap).get(), file.Unfinished(), clsid)
+                                               : Encode(bitmap, file.Unfinished(), clsid);
+    return written && file.Commit();
 }

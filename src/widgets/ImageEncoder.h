@@ -20,5 +20,6 @@ int GetEncoderClsid(const CString& mimeType, CLSID& clsid);
 bool GetEncoderForPath(const CString& path, CLSID& clsid);
 
 /// Saves a 32-bit ARGB bitmap with an encoder that `GetEncoderForPath` gave for this path. A bitmap file keeps its alpha:
-/// not every GDI+ writes it, so these are written here. The file appears whole or, on failure, stays as it was.
+/// not every GDI+ writes it, so these are written here. The file appears whole or, on failure, stays as it was; a write-protected
+/// one is a failure.
 bool SaveBitmap(gp::GpBitmap* bitmap, const CString& path, const CLSID& clsid);

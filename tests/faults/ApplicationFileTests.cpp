@@ -85,6 +85,37 @@ TEST_F(ApplicationFiles, spoilt_at_the_start_are_survived_and_the_next_start_men
     EXPECT_EQ(UnfinishedFiles(AppDir()), Lines{});
 }
 
+TEST_F(ApplicationFiles, a_missing_language_table_leaves_every_text_as_it_is_built_in)
+{
+    const Fault fault("no language table");
+    const auto shown = [this]
+    {
+        Reread();
+        EXPECT_TRUE(Start());
+        Frame().ClearTitleSet();
+        Frame().SetSceneTitleFontStyle(TitleFont);
+        Frame().OpenPropertyDlg(nullptr, true);
+        // Over the close button, whose tooltip shows.
+        Host().MoveMouse(Width - 28, 25);
+        Rebuild();
+        Host().MoveMouse(Width / 2, Height / 2);
+        Host().MoveMouse(Width - 28, 25);
+        return Seen();
+    };
+    const auto before = shown();
+    ASSERT_NE(GuiHost::Find("tavguitooltipwindow"), nullptr);
+    EXPECT_EQ(NewLog(), Lines{});
+    {
+        const FileTaken table(AppDir() + L"languages\\zh-CN.ini");
+        EXPECT_TRUE(shown() == before);
+        const Lines log = NewLog();
+        ASSERT_EQ(log.size(), 1u);
+        EXPECT_NE(log[0].find("zh-CN.ini is missing; the built-in texts are shown."), std::string::npos) << log[0];
+    }
+    Frame().OpenPropertyDlg(nullptr, false);
+    ExpectMended();
+}
+
 TEST_F(ApplicationFiles, fonts_that_are_absent_leave_texts_out_and_are_told)
 {
     const Fault fault("no font of those that are wanted");

@@ -3,7 +3,6 @@
 
 #include "support/HostedFrame.h"
 
-#include <ios>
 #include <string>
 #include <vector>
 
@@ -50,7 +49,7 @@ protected:
     Lines NewLog();
 
 private:
-    std::streamoff seen_ = 0;
+    std::size_t seen_ = 0;
 };
 
 /// The lines that do not hold a text.

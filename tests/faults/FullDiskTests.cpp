@@ -14,8 +14,6 @@
 #include <memory>
 #include <vector>
 
-#include <unistd.h>
-
 namespace
 {
 /// What writes, with a picture of its own each time, so that nothing is left as it was.
@@ -151,8 +149,8 @@ protected:
         for (const CString& file : bitmaps_)
         {
             EXPECT_TRUE(IsWholeBitmap(ReadBytes(AppDir() + file))) << Utf8(file);
-            EXPECT_EQ(GetFileAttributesW(AppDir() + file + L".part"), INVALID_FILE_ATTRIBUTES) << Utf8(file);
         }
+        EXPECT_EQ(UnfinishedFiles(AppDir()), Lines{});
         EXPECT_EQ(Without(log, ".bmp"), Lines{});
         EXPECT_TRUE(Stands());
         return !log.empty();
@@ -215,18 +213,23 @@ TEST_F(FullDisk, read_only_changes_nothing_and_the_next_write_mends_it)
 
 TEST_F(FullDisk, under_the_log_takes_nothing_but_the_log)
 {
-    const Fault fault("a full disk under the log");
-    char former[4096];
-    ASSERT_NE(getcwd(former, sizeof(former)), nullptr);
-    ASSERT_EQ(chdir(disk_->NativeFolder().c_str()), 0);
-    disk_->Fill(4);
-    EXPECT_TRUE(Start());
-    Rebuild();
-    EXPECT_TRUE(Stands());
-    ExpectAnswers();
-    disk_->Clear();
-    ASSERT_EQ(chdir(former), 0);
-    EXPECT_TRUE(Start());
+    wchar_t former[MAX_PATH] = {};
+    GetCurrentDirectoryW(MAX_PATH, former);
+    for (const bool readOnly : {false, true})
+    {
+        const Fault fault(readOnly ? "a disk under the log that may not be written" : "a full disk under the log");
+        ASSERT_TRUE(SetCurrentDirectoryW(AppDir()));
+        readOnly ? disk_->SetReadOnly(true) : disk_->Fill(4);
+        EXPECT_TRUE(Start());
+        Rebuild();
+        EXPECT_TRUE(Stands());
+        ExpectAnswers();
+        disk_->SetReadOnly(false);
+        disk_->Clear();
+        ASSERT_TRUE(SetCurrentDirectoryW(former));
+        EXPECT_TRUE(Start());
+        DeleteFileW(AppDir() + L"CEGUI.log");
+    }
 }
 
 TEST_F(FullDisk, under_the_systems_fonts_leaves_no_part_of_a_font)

@@ -76,23 +76,35 @@ TEST_F(OutputFiles, a_folder_in_a_files_place_is_told_and_nothing_else_suffers)
         {
             const FolderInPlace folder(SkinDir() + output);
             ExpectTold(output);
-            EXPECT_EQ(GetFileAttributesW(SkinDir() + output + L".part"), INVALID_FILE_ATTRIBUTES);
+            EXPECT_EQ(UnfinishedFiles(SkinDir()), Lines{});
         }
         ExpectMended(output);
     }
 }
 
-TEST_F(OutputFiles, a_folder_in_place_of_the_unfinished_file_leaves_the_former_one)
+TEST_F(OutputFiles, the_unfinished_file_of_another_program_is_no_hindrance)
 {
     for (const wchar_t* output : outputs)
     {
-        const Fault fault("a folder in place of the unfinished " + Utf8(output));
+        const Fault fault("another program writes " + Utf8(output));
+        const HANDLE held = CreateFileW(SkinDir() + output + L".part", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                        FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        ASSERT_NE(held, INVALID_HANDLE_VALUE);
+        ExpectMended(output);
+        CloseHandle(held);
+    }
+}
+
+TEST_F(OutputFiles, a_write_protected_file_is_told_and_stays)
+{
+    for (const wchar_t* output : outputs)
+    {
+        const Fault fault(Utf8(output) + " write-protected");
         const Bytes former = ReadBytes(SkinDir() + output);
-        {
-            const FolderInPlace folder(SkinDir() + output + L".part");
-            ExpectTold(output);
-            EXPECT_TRUE(ReadBytes(SkinDir() + output) == former);
-        }
+        SetFileAttributesW(SkinDir() + output, FILE_ATTRIBUTE_READONLY);
+        ExpectTold(output);
+        EXPECT_TRUE(ReadBytes(SkinDir() + output) == former);
+        SetFileAttributesW(SkinDir() + output, FILE_ATTRIBUTE_NORMAL);
         ExpectMended(output);
     }
 }

@@ -23,8 +23,6 @@ public:
     void Fill(int kilobytesLeft);
     void Clear();
     void SetReadOnly(bool readOnly);
-    /// The folder for functions of the system itself.
-    const std::string& NativeFolder() const { return folder_; }
 
 private:
     std::string folder_;

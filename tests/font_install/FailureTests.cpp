@@ -161,16 +161,26 @@ TEST_F(FontFailureTest, the_face_is_compared_letter_by_letter)
     ExpectOneLine(lower);
 }
 
-TEST_F(FontFailureTest, a_folder_that_cannot_be_written_leaves_no_part_of_a_file)
+TEST_F(FontFailureTest, a_folder_in_the_copys_place_leaves_no_part_of_a_file)
 {
     AddAppFont(6);
-    // A folder in the copy's place while it is made.
-    CreateDirectoryW(SystemFont(FileOf(6) + L".part"), nullptr);
+    CreateDirectoryW(SystemFont(FileOf(6)), nullptr);
     EXPECT_FALSE(InstallSystemFont(Face(6), Name(6)));
-    EXPECT_EQ(GetFileAttributesW(SystemFont(FileOf(6))), INVALID_FILE_ATTRIBUTES);
+    EXPECT_FALSE(HasUnfinishedFile(SystemFont(L"")));
     EXPECT_FALSE(Registered(L"nxface06"));
-    RemoveDirectoryW(SystemFont(FileOf(6) + L".part"));
+    RemoveDirectoryW(SystemFont(FileOf(6)));
     ExpectOneLine(Utf8(SystemFont(FileOf(6))));
+}
+
+TEST_F(FontFailureTest, an_unfinished_copy_of_another_program_is_no_hindrance)
+{
+    AddAppFont(8);
+    const CString unfinished = SystemFont(FileOf(8) + L".part");
+    const HANDLE held = CreateFileW(unfinished, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    EXPECT_TRUE(InstallSystemFont(Face(8), Name(8)));
+    CloseHandle(held);
+    EXPECT_FALSE(HasUnfinishedFile(SystemFont(L"")));
 }
 
 TEST_F(FontFailureTest, without_the_right_to_write_the_list_the_font_is_there_all_the_same)

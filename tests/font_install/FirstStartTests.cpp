@@ -88,7 +88,7 @@ TEST_F(FirstStartTest, installs_the_title_font_and_shows_the_default_title)
     Restart(GUI_USER_FULL);
     EXPECT_TRUE(IsFontInstalled(TitleFace));
     EXPECT_EQ(ReadBytes(SystemFont(TitleFile)), ReadBytes(AppFont(TitleFile)));
-    EXPECT_EQ(GetFileAttributesW(SystemFont(CString(TitleFile) + L".part")), INVALID_FILE_ATTRIBUTES);
+    EXPECT_FALSE(HasUnfinishedFile(SystemFont(L"")));
     const std::optional<CString> value = Registered(L"youyuan");
     ASSERT_TRUE(value);
     EXPECT_EQ(value->GetLength(), 12) << "the terminating null counts";

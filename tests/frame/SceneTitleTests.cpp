@@ -231,6 +231,24 @@ TEST_F(SceneTitleTest, a_font_that_is_not_installed_does_not_keep_the_frame_from
     TakeLog();
 }
 
+TEST_F(SceneTitleTest, an_empty_font_family_leaves_the_title_and_a_good_one_changes_it)
+{
+    Frame().ChangeTitleText(L"Shown", Yellow, Font, 20.0f);
+    const Screenshot before = Host().Shoot();
+    Frame().ChangeTitleText(L"Unseen", Yellow, L"", 20.0f);
+    EXPECT_EQ(Frame().GetSceneTitleFontStyle(), L"");
+    EXPECT_EQ(TakeLog().size(), 1u) << "a picture without a font is not drawn";
+    EXPECT_TRUE(Host().Shoot().pixels == before.pixels);
+    // The next frame shows it in the default family.
+    Rebuild();
+    TakeLog();
+    EXPECT_NE(Host().Find(TitleText), nullptr);
+    EXPECT_FALSE(Host().Shoot().pixels == before.pixels);
+    EXPECT_EQ(Frame().GetSceneTitleFontStyle(), L"") << "it stays as it was stored";
+    Frame().ChangeTitleText(L"Again", Yellow, Font, 20.0f);
+    EXPECT_EQ(Place(TitleText), ExpectedPlace(L"Again", 20));
+}
+
 TEST_F(SceneTitleTest, a_long_title_leaves_the_window_buttons_within_reach)
 {
     Frame().ChangeTitleText(CString(L'W', 300), Yellow, Font, 20.0f);

@@ -17,23 +17,9 @@ std::string FaceWithFont(const std::string& family)
     EXPECT_TRUE(WriteBytes(file, RenamedFont(ReadBytes(CString(NX_TEST_FONT)), CString(family.c_str()))));
     DeleteFileW(Answer);
     SetEnvironmentVariableW(L"NX_ADDED_FONT", file);
-    wchar_t program[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    CString command;
-    command.Format(L"\"%s\" --gtest_brief=1 --gtest_also_run_disabled_tests --gtest_filter=TitleFontProcess.*", program);
-    STARTUPINFOW start = {};
-    start.cb = sizeof(start);
-    PROCESS_INFORMATION process = {};
-    EXPECT_TRUE(CreateProcessW(program, command.GetBuffer(command.GetLength()), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &start, &process));
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    EXPECT_TRUE(StartAgain(L"TitleFontProcess.*"));
     SetEnvironmentVariableW(L"NX_ADDED_FONT", nullptr);
-    // Asked for its answer, since not every system lets a process be waited for by the one that starts it.
-    for (int tries = 0; tries < 600 && GetFileAttributesW(Answer) == INVALID_FILE_ATTRIBUTES; ++tries)
-    {
-        Sleep(50);
-    }
+    EXPECT_TRUE(WaitForFile(Answer));
     const std::vector<std::uint8_t> answer = ReadBytes(Answer);
     DeleteFileW(file);
     return std::string(answer.begin(), answer.end());

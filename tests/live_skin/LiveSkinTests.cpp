@@ -193,6 +193,29 @@ TEST_F(LiveSkinTest, the_skins_beside_it_follow_each_other_and_begin_again)
     EXPECT_EQ(Utf8(LiveSkin(Skins() + L"TavLookLight\\").NextFolder()), Utf8(Edited()));
 }
 
+TEST_F(LiveSkinTest, a_path_that_leads_up_pours_nothing_into_the_resource_folder)
+{
+    const CString resources = host::ResourceFolder();
+    const FileReplaced picture(resources + L"a picture.png", {'p'});
+    for (const CString& folder : {Edited() + L"..\\", Edited() + L"new_skin\\..\\..\\", Edited() + L"new_skin\\..\\", resources})
+    {
+        SCOPED_TRACE(Utf8(folder));
+        LiveSkin skin(folder);
+        EXPECT_NE(GetFileAttributesW(resources + L"a picture.png"), INVALID_FILE_ATTRIBUTES);
+        EXPECT_EQ(GetFileAttributesW(resources + Scheme), INVALID_FILE_ATTRIBUTES);
+    }
+    EXPECT_EQ(Utf8(LiveSkin(Edited() + L"new_skin\\..\\").Name()), "Edited");
+}
+
+TEST_F(LiveSkinTest, a_missing_skin_leaves_the_copy_of_one_of_its_name)
+{
+    const CString copy = host::ResourceFolder() + L"skins_in_use\\Edited\\";
+    ASSERT_NE(GetFileAttributesW(copy + Scheme), INVALID_FILE_ATTRIBUTES);
+    LiveSkin missing(host::ResourceFolder() + L"nowhere\\Edited\\");
+    EXPECT_NE(GetFileAttributesW(copy + Scheme), INVALID_FILE_ATTRIBUTES);
+    EXPECT_NE(GetFileAttributesW(copy + Logo), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST_F(LiveSkinTest, a_skin_that_cannot_be_copied_is_used_where_it_is)
 {
     CParamConfig::getInstance()->reload();

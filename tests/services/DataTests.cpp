@@ -6,8 +6,10 @@
 #include <NxConfig/ParamConfig.h>
 #include <NxConfig/SystemUtility.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 // The application's own data files, read by the services.
 namespace
@@ -45,6 +47,53 @@ TEST(ApplicationData, HasATextForEveryKeyInBothLanguages)
     CParamConfig::getInstance()->setStringParam("Language", "zh-CN");
     EXPECT_EQ(Utf8(manager->translation("LKEY0", "", "Common")), "滨江新城总体规划");
     EXPECT_EQ(folder.TakeLog(), std::vector<std::string>());
+}
+
+TEST(ApplicationData, HasTheTextsThatAreBuiltIn)
+{
+    std::vector<std::string> built[2];
+    std::vector<std::string> shipped[2];
+    const char* const languages[] = {"zh-CN", "en"};
+    CMultiLanguageMgr* manager = CMultiLanguageMgr::GetInstance();
+    for (const bool withTables : {false, true})
+    {
+        TestFolder folder;
+        if (withTables)
+        {
+            folder.Write(L"languages\\zh-CN.ini", BytesOf("languages/zh-CN.ini"));
+            folder.Write(L"languages\\en.ini", BytesOf("languages/en.ini"));
+        }
+        for (int i = 0; i < 2; ++i)
+        {
+            CParamConfig::getInstance()->setStringParam("Language", languages[i]);
+            for (const char* key : Keys)
+            {
+                (withTables ? shipped : built)[i].push_back(Utf8(manager->translation(key, "", "Common")));
+            }
+        }
+    }
+    EXPECT_EQ(built[0], shipped[0]);
+    EXPECT_EQ(built[1], shipped[1]);
+    EXPECT_NE(built[0], built[1]);
+}
+
+TEST(ApplicationData, EveryKeyOfATableIsAmongThoseThatAreChecked)
+{
+    for (const char* table : {"languages/zh-CN.ini", "languages/en.ini"})
+    {
+        std::istringstream lines(BytesOf(table));
+        int count = 0;
+        for (std::string line; std::getline(lines, line);)
+        {
+            if (line.rfind("LKEY", 0) == 0)
+            {
+                const std::string key = line.substr(0, line.find('='));
+                EXPECT_NE(std::find(std::begin(Keys), std::end(Keys), key), std::end(Keys)) << key;
+                ++count;
+            }
+        }
+        EXPECT_EQ(count, std::end(Keys) - std::begin(Keys)) << table;
+    }
 }
 
 TEST(ApplicationData, HasParametersAndDirectories)

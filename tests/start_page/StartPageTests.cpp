@@ -161,7 +161,7 @@ TEST_F(StartPageTest, a_missing_or_corrupt_picture_resets_the_record_and_prints_
         EXPECT_EQ(CString(L"Riverside 2.0"), frame_.GetStaPageParameter().title) << bytes.size();
         EXPECT_EQ(Resources() + L"pics/kwexeGuiImage.bmp", frame_.GetStaPageParameter().picture) << bytes.size();
         EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed())) << bytes.size();
-        EXPECT_FALSE(Exists(Printed() + L".part.bmp"));
+        EXPECT_FALSE(HasUnfinishedFile(AppDir() + L"exeFiles\\pics\\"));
     }
 }
 
@@ -173,7 +173,7 @@ TEST_F(StartPageTest, a_target_that_somebody_reads_stays_and_no_part_of_a_file_r
     frame_.ClearStaPageParameter();
     CloseHandle(held);
     EXPECT_EQ(Bytes("printed before"), ReadBytes(Printed()));
-    EXPECT_FALSE(Exists(Printed() + L".part.bmp"));
+    EXPECT_FALSE(HasUnfinishedFile(AppDir() + L"exeFiles\\pics\\"));
 }
 
 TEST_F(StartPageTest, a_read_only_target_stays_and_no_part_of_a_file_remains)
@@ -187,7 +187,7 @@ TEST_F(StartPageTest, a_read_only_target_stays_and_no_part_of_a_file_remains)
         frame_.ClearStaPageParameter();
         SetFileAttributesW(target, FILE_ATTRIBUTE_NORMAL);
         EXPECT_EQ(before, ReadBytes(target));
-        EXPECT_FALSE(Exists(target + L".part.bmp"));
+        EXPECT_FALSE(HasUnfinishedFile(target.Left(target.ReverseFind(L'\\') + 1)));
     }
 }
 

@@ -12,7 +12,6 @@
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 #include <stdexcept>
 
@@ -345,19 +344,4 @@ CPoint GuiHost::CentreOf(const char* name)
 {
     const RECT rect = RectOf(name);
     return CPoint((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-}
-
-std::vector<std::string> LogLines()
-{
-    std::vector<std::string> lines;
-    std::ifstream log("CEGUI.log");
-    for (std::string line; std::getline(log, line);)
-    {
-        const std::size_t own = line.find("NxOsgCeGui: ");
-        if (own != std::string::npos)
-        {
-            lines.push_back(line.substr(own));
-        }
-    }
-    return lines;
 }

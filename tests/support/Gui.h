@@ -138,10 +138,16 @@ CString AppDir();
 /// The CEGUI resource directory in it.
 CString SkinDir();
 
-/// Lines of CEGUI.log that the library wrote itself ("NxOsgCeGui: ...").
+/// Lines of CEGUI.log that the library wrote itself ("NxOsgCeGui: ...") since the last start.
 std::vector<std::string> LogLines();
-/// Lines of the log that hold a text.
+/// Those of them that hold a text.
 int CountLogLines(const std::string& text);
+
+/// Starts the tests of a filter in another process of this program, in the same folder. Those are disabled, so that they run only
+/// so; they leave a file for an answer, since not every system lets a process be waited for by the one that starts it.
+bool StartAgain(const wchar_t* filter);
+/// Waits for such an answer, a minute at most. @return whether it is there
+bool WaitForFile(const CString& path);
 
 /// A file put away for the life of the object.
 class FileTaken
@@ -168,6 +174,9 @@ private:
     std::vector<std::uint8_t> former_;
     bool existed_ = false;
 };
+
+/// Whether a folder holds a file that is being written, or was left half written.
+bool HasUnfinishedFile(const CString& folder);
 
 std::vector<std::uint8_t> ReadBytes(const CString& path);
 bool WriteBytes(const CString& path, const std::vector<std::uint8_t>& bytes);

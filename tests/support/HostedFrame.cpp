@@ -75,7 +75,7 @@ void HostedFrame::Restart(GUIUserType userType)
     Host().Close();
     Host().Start(userType);
     ClickAsFastAsYouLike();
-    // CEGUI begins its log anew with each start.
+    // The lines of the log count from the last start.
     logSeen_ = 0;
 }
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 
 bool operator==(Pixel a, Pixel b)
 {
@@ -49,11 +50,51 @@ CString SkinDir()
     return AppDir() + SystemUtility::GetCeguiResRelPath();
 }
 
+std::vector<std::string> LogLines()
+{
+    // Starts append to the file, and most callers only want the last few lines of it.
+    static std::streamoff seen = 0;
+    static std::vector<std::string> lines;
+    std::ifstream log("CEGUI.log", std::ios::binary | std::ios::ate);
+    if (log.tellg() < seen)
+    {
+        // Begun anew.
+        seen = 0;
+        lines.clear();
+    }
+    log.seekg(seen);
+    for (std::string line; std::getline(log, line);)
+    {
+        seen += static_cast<std::streamoff>(line.size()) + 1;
+        const std::size_t own = line.find("NxOsgCeGui: ");
+        if (own != std::string::npos)
+        {
+            lines.push_back(line.substr(own));
+        }
+        else if (line.find("NxOsgCeGui starts") != std::string::npos)
+        {
+            lines.clear();
+        }
+    }
+    return lines;
+}
+
 int CountLogLines(const std::string& text)
 {
     const std::vector<std::string> lines = LogLines();
     return static_cast<int>(
         std::count_if(lines.begin(), lines.end(), [&](const std::string& line) { return line.find(text) != std::string::npos; }));
+}
+
+bool HasUnfinishedFile(const CString& folder)
+{
+    WIN32_FIND_DATAW found;
+    const HANDLE find = FindFirstFileW(folder + L"~*.part*", &found);
+    if (find != INVALID_HANDLE_VALUE)
+    {
+        FindClose(find);
+    }
+    return find != INVALID_HANDLE_VALUE;
 }
 
 std::vector<std::uint8_t> ReadBytes(const CString& path)
@@ -83,6 +124,34 @@ bool WriteBytes(const CString& path, const std::vector<std::uint8_t>& bytes)
         WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
     CloseHandle(file);
     return complete;
+}
+
+bool StartAgain(const wchar_t* filter)
+{
+    wchar_t program[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    CString command;
+    command.Format(L"\"%s\" --gtest_brief=1 --gtest_output= --gtest_also_run_disabled_tests --gtest_filter=%s", program, filter);
+    STARTUPINFOW start = {};
+    start.cb = sizeof(start);
+    PROCESS_INFORMATION process = {};
+    const BOOL started = CreateProcessW(program, command.GetBuffer(command.GetLength()), nullptr, nullptr, FALSE, 0, nullptr,
+                                        nullptr, &start, &process);
+    if (started)
+    {
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    return started != FALSE;
+}
+
+bool WaitForFile(const CString& path)
+{
+    for (int tries = 0; tries < 1200 && GetFileAttributesW(path) == INVALID_FILE_ATTRIBUTES; ++tries)
+    {
+        Sleep(50);
+    }
+    return GetFileAttributesW(path) != INVALID_FILE_ATTRIBUTES;
 }
 
 FileTaken::FileTaken(const CString& path) : path_(path)

@@ -131,9 +131,29 @@ TEST(ImageEncoder, failed_save_leaves_the_former_file_and_no_part_of_the_new_one
         EXPECT_FALSE(SaveBitmap(bitmap.get(), path, encoder)) << "a file that somebody holds open";
         CloseHandle(held);
         EXPECT_EQ(ReadBytes(path), former);
-        EXPECT_EQ(GetFileAttributesW(path + L".part"), INVALID_FILE_ATTRIBUTES);
+        EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
         EXPECT_TRUE(SaveBitmap(bitmap.get(), path, encoder));
         EXPECT_EQ(ReadPictureFile(path).width, 4);
-        EXPECT_EQ(GetFileAttributesW(path + L".part"), INVALID_FILE_ATTRIBUTES);
+        EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
+    }
+}
+
+TEST(ImageEncoder, a_write_protected_file_stays_and_its_save_fails)
+{
+    const gp::Bitmap bitmap = gp::NewBitmap(4, 4);
+    for (const wchar_t* name : {L"protected.bmp", L"protected.gif", L"protected.png"})
+    {
+        const CString path = SkinDir() + name;
+        const std::vector<std::uint8_t> former = {'f', 'o', 'r', 'm', 'e', 'r'};
+        ASSERT_TRUE(WriteBytes(path, former));
+        CLSID encoder;
+        ASSERT_TRUE(GetEncoderForPath(path, encoder));
+        SetFileAttributesW(path, FILE_ATTRIBUTE_READONLY);
+        EXPECT_FALSE(SaveBitmap(bitmap.get(), path, encoder));
+        EXPECT_EQ(ReadBytes(path), former);
+        EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
+        SetFileAttributesW(path, FILE_ATTRIBUTE_NORMAL);
+        EXPECT_TRUE(SaveBitmap(bitmap.get(), path, encoder));
+        EXPECT_EQ(ReadPictureFile(path).width, 4);
     }
 }

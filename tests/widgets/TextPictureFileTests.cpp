@@ -40,7 +40,7 @@ TEST_F(TextPictureFile, each_extension_writes_its_kind_of_file)
         EXPECT_TRUE(std::equal(row.start.begin(), row.start.end(), bytes.begin()));
         EXPECT_EQ(ReadPictureFile(Path(row.name)).width, 40);
         EXPECT_EQ(ReadPictureFile(Path(row.name)).height, 30);
-        EXPECT_FALSE(Exists(Path(row.name) + L".part"));
+        EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
     }
 }
 
@@ -66,7 +66,7 @@ TEST_F(TextPictureFile, refused_calls_write_nothing_and_leave_the_former_file)
         ASSERT_TRUE(WriteBytes(path, former));
         EXPECT_FALSE(DrawTextToImageFile(path, row.width, 30, row.font, 20, 0, L"x"));
         EXPECT_EQ(ReadBytes(path), former);
-        EXPECT_FALSE(Exists(path + L".part"));
+        EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
         EXPECT_EQ(TakeLog(), Lines(2, "NxOsgCeGui: text picture not written: " + Utf8(path)));
     }
     EXPECT_FALSE(DrawTextToImageFile(L"", 40, 30, Latin, 20, 0, L"x"));
@@ -123,4 +123,29 @@ TEST_F(TextPictureFile, rewritten_text_replaces_the_former_picture)
     const std::vector<std::uint8_t> second = ReadBytes(Path(L"again.bmp"));
     EXPECT_EQ(first.size(), second.size());
     EXPECT_NE(first, second);
+}
+
+TEST_F(TextPictureFile, a_name_as_long_as_the_file_system_takes_is_written)
+{
+    // 254 and 255 bytes with the extension.
+    for (const int length : {250, 251})
+    {
+        const CString name(L'n', length);
+        EXPECT_EQ(Utf8(CreateTextImageFile(50, 20, name, L"x", 16, Latin, 0)), Utf8(name + L".bmp"));
+        EXPECT_EQ(ReadPictureFile(Path(name + L".bmp")).width, 50) << length;
+        DeleteFileW(Path(name + L".bmp"));
+    }
+}
+
+TEST_F(TextPictureFile, a_write_protected_picture_stays_and_the_failure_is_told)
+{
+    const CString path = Path(L"protected.bmp");
+    const std::vector<std::uint8_t> former = {'f', 'o', 'r', 'm', 'e', 'r'};
+    ASSERT_TRUE(WriteBytes(path, former));
+    SetFileAttributesW(path, FILE_ATTRIBUTE_READONLY);
+    EXPECT_TRUE(CreateTextImageFile(50, 20, L"protected", L"x", 16, Latin, 0).IsEmpty());
+    EXPECT_EQ(ReadBytes(path), former);
+    EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: text picture not written: " + Utf8(path)});
+    SetFileAttributesW(path, FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(Utf8(CreateTextImageFile(50, 20, L"protected", L"x", 16, Latin, 0)), "protected.bmp");
 }

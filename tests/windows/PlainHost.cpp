@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The tests' host without a view: its main window and its message queue are there, and no interface is ever started. What the
-// library has to say goes to the debugger's output then.
+// The tests' host without a view: its main window and its message queue are there, and no interface is ever started.
 #include "support/Gui.h"
-
-#include <KernelCommonUse/StringConvert.h>
 
 #include <windows.h>
 
@@ -19,30 +16,6 @@ namespace
 
 const wchar_t* const MainClass = L"NxGuiTestMain";
 GuiHost* currentHost = nullptr;
-
-std::vector<std::string>& Told()
-{
-    static std::vector<std::string> lines;
-    return lines;
-}
-
-/// Each line for the debugger is an exception that nobody else sees.
-LONG CALLBACK NoteLine(EXCEPTION_POINTERS* raised)
-{
-    const EXCEPTION_RECORD& record = *raised->ExceptionRecord;
-    if (record.ExceptionCode == DBG_PRINTEXCEPTION_C && record.NumberParameters >= 2)
-    {
-        std::string line = CString2string(CString(reinterpret_cast<const char*>(record.ExceptionInformation[1])));
-        const std::size_t own = line.find("NxOsgCeGui: ");
-        if (own != std::string::npos)
-        {
-            Told().push_back(line.substr(own, line.find('\n', own) - own));
-        }
-    }
-    return EXCEPTION_CONTINUE_SEARCH;
-}
-
-void* const noting = AddVectoredExceptionHandler(1, &NoteLine);
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -145,9 +118,4 @@ std::vector<WPARAM> GuiHost::TakeCodes()
 CPoint GuiHost::CentreOf(const char*)
 {
     NoView();
-}
-
-std::vector<std::string> LogLines()
-{
-    return Told();
 }

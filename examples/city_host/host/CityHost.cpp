@@ -49,7 +49,10 @@ void CityHost::ShowPublication()
 {
     const Publication publication = ReadPublication(options_.publicationFolder);
     options_.user = GUI_USER_RESTRICTED;
-    UseLanguage(publication.language);
+    if (!publication.language.IsEmpty())
+    {
+        UseLanguage(publication.language);
+    }
     Frame().SetSceneTitle(publication.title);
     Frame().SetSceneTitleFontStyle(publication.titleFont);
     Frame().SetSceneTitleColor(publication.titleColor);

@@ -27,7 +27,7 @@ const wchar_t* Say(const Words& words)
 
 void UseLanguage(const CString& language)
 {
-    CParamConfig::getInstance()->setStringParam(LanguageParameter, CString2string(language));
+    CParamConfig::getInstance()->setStringParam(LanguageParameter, _w2a(language));
 }
 
 CString Translation(const char* key)

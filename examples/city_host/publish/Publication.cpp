@@ -8,7 +8,10 @@
 
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/IniFile.h>
+#include <KernelCommonUse/MultiLanguage.h>
+#include <KernelCommonUse/ServiceLog.h>
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/SystemUtility.h>
 
 #include <cstdlib>
@@ -25,20 +28,6 @@ const wchar_t* const SettingsFile = L"publication.ini";
 const wchar_t* const StartFile = L"start.cmd";
 const wchar_t* const Section = L"Publication";
 const char* const Utf8Mark = "\xEF\xBB\xBF";
-
-bool WriteFileBytes(const CString& path, const std::string& bytes)
-{
-    const HANDLE file = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-    {
-        return false;
-    }
-    DWORD written = 0;
-    const bool complete =
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
-    CloseHandle(file);
-    return complete;
-}
 
 CString PrintedPage()
 {
@@ -89,11 +78,23 @@ bool CopyStarters(const CString& folder)
     {
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
         {
-            copied = CopyFileW(starters + found.cFileName, folder + L"\\" + found.cFileName, FALSE) && copied;
+            copied = WholeFile::Copy(starters + found.cFileName, folder + L"\\" + found.cFileName) && copied;
         }
     } while (FindNextFileW(find, &found));
     FindClose(find);
     return copied;
+}
+
+/// @param settings file that the language comes from
+CString LanguageOf(const CString& language, const CString& settings)
+{
+    if (CMultiLanguageMgr::IsTableName(language))
+    {
+        return language;
+    }
+    ServiceLog("The publication's language \"" + CString2string(language) +
+               "\" is not the name of a table: " + CString2string(settings));
+    return CString();
 }
 
 double Number(CIniFile& ini, const wchar_t* key)
@@ -127,7 +128,7 @@ CString PrintStartPage(const StartPageTexts& texts)
     const std::string ini = Utf8Mark + std::string("[发布独立程序文字]\r\n标题=") + CString2string(texts.title) +
                             "\r\n项目名称=" + CString2string(texts.projectName) +
                             "\r\n单位名称=" + CString2string(texts.unitName) + "\r\n";
-    if (!WriteFileBytes(TextsFile(), ini))
+    if (!WholeFile::Write(TextsFile(), ini))
     {
         return CString();
     }
@@ -152,9 +153,9 @@ CString WritePublication(const CString& folder, const Publication& publication)
 {
     CreateDirectoryW(FileOp::GetAppPath() + L"published", nullptr);
     CreateDirectoryW(folder, nullptr);
-    const bool written = CopyFileW(publication.startPage, folder + L"\\" + PictureFile, FALSE) &&
-                         WriteFileBytes(folder + L"\\" + SettingsFile, Settings(publication)) &&
-                         WriteFileBytes(folder + L"\\" + StartFile, StartScript()) && CopyStarters(folder);
+    const bool written = WholeFile::Copy(publication.startPage, folder + L"\\" + PictureFile) &&
+                         WholeFile::Write(folder + L"\\" + SettingsFile, Settings(publication)) &&
+                         WholeFile::Write(folder + L"\\" + StartFile, StartScript()) && CopyStarters(folder);
     return written ? CString() : Say({L"无法写入 ", L"cannot be written: "}) + folder;
 }
 
@@ -169,7 +170,7 @@ Publication ReadPublication(const CString& folder)
     ini.SetPath(path);
     Publication publication;
     publication.startPage = folder + L"\\" + PictureFile;
-    publication.language = ini.GetKeyValue(Section, L"Language");
+    publication.language = LanguageOf(ini.GetKeyValue(Section, L"Language"), path);
     publication.title = ini.GetKeyValue(Section, L"Title");
     publication.titleFont = ini.GetKeyValue(Section, L"TitleFont");
     publication.titleColor = static_cast<COLORREF>(Number(ini, L"TitleColor"));

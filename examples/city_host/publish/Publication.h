@@ -20,7 +20,7 @@ struct StartPageTexts
 struct Publication
 {
     CString startPage; ///< full path of the picture
-    CString language;
+    CString language;  ///< name of a table; empty: the application's own
     CString title;
     CString titleFont;
     COLORREF titleColor = 0;

@@ -4,8 +4,8 @@
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/ServiceLog.h>
 #include <KernelCommonUse/StringConvert.h>
+#include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/ParamConfig.h>
-#include <NxConfig/SystemUtility.h>
 
 #include <algorithm>
 
@@ -21,29 +21,28 @@ const wchar_t* const CopyFolder = L"skins_in_use\\";
 /// What was in the copy before, until the interface has started with the new file.
 const wchar_t* const FormerExtension = L".former";
 
-CString ResourceFolder()
-{
-    return SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath();
-}
-
 /// The file's new bytes in place of the old ones, which are kept beside it.
 bool Replace(const CString& from, const CString& to)
 {
     const CString former = to + FormerExtension;
     DeleteFileW(former);
-    const bool kept = !FileOp::FileExist(to) || CopyFileW(to, former, FALSE);
-    return kept && CopyFileW(from, to, FALSE);
+    const bool kept = !FileOp::FileExist(to) || WholeFile::Copy(to, former);
+    return kept && WholeFile::Copy(from, to);
 }
 
 bool CopySkin(const CString& from, const CString& to)
 {
+    if (from.CompareNoCase(to) == 0)
+    {
+        return false;
+    }
     MakeFolders(to + L"new_skin\\");
     const SkinFiles files = ListSkin(from);
     SkinFiles there = ListSkin(to);
     for (const auto& [file, stamp] : files)
     {
         const auto same = there.find(file);
-        if ((same == there.end() || !(same->second == stamp)) && !CopyFileW(from + file, to + file, FALSE))
+        if ((same == there.end() || !(same->second == stamp)) && !WholeFile::Copy(from + file, to + file))
         {
             return false;
         }
@@ -65,8 +64,14 @@ CString LiveSkin::ConfiguredFolder()
 
 LiveSkin::LiveSkin(const CString& folder) : folder_(folder)
 {
+    // What is no folder of a skin's own is not copied: a copy takes the name of the folder, and loses what that does not hold.
+    const CString resolved = ResolveSkinFolder(folder);
+    if (!resolved.IsEmpty())
+    {
+        folder_ = resolved;
+    }
     const CString copy = CString(CopyFolder) + Name() + L"\\";
-    if (CopySkin(folder_, ResourceFolder() + copy))
+    if (!resolved.IsEmpty() && CopySkin(folder_, ResourceFolder() + copy))
     {
         copy_ = ResourceFolder() + copy;
         CParamConfig::getInstance()->setStringParam(SkinParameter, _w2a(copy));

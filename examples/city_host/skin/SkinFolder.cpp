@@ -2,6 +2,7 @@
 #include "SkinFolder.h"
 
 #include <KernelCommonUse/FileOp.h>
+#include <NxConfig/SystemUtility.h>
 
 #include <atlimage.h>
 
@@ -39,6 +40,16 @@ bool BelongsToSkin(const CString& file)
     return extension != L".bmp" && (IsOneOf(extension, pictureExtensions) || IsOneOf(extension, textExtensions));
 }
 
+/// Empty for a path that is none.
+CString FullFolder(const CString& path)
+{
+    CString full;
+    const int size = static_cast<int>(GetFullPathNameW(path, 0, nullptr, nullptr));
+    const DWORD length = size > 0 ? GetFullPathNameW(path, static_cast<DWORD>(size), full.GetBuffer(size), nullptr) : 0;
+    full.ReleaseBuffer(static_cast<int>(length));
+    return full.IsEmpty() || full[full.GetLength() - 1] == L'\\' ? full : full + L'\\';
+}
+
 template <typename Each>
 void ForEachEntry(const CString& pattern, Each each)
 {
@@ -71,6 +82,25 @@ void ListFiles(const CString& folder, const CString& below, SkinFiles& files)
 }
 
 } // namespace
+
+CString ResourceFolder()
+{
+    return SystemUtility::GetAppPath() + SystemUtility::GetResourceRelPath();
+}
+
+CString ResolveSkinFolder(const CString& skin)
+{
+    CString path = skin;
+    path.Replace(L'/', L'\\');
+    if (!path.IsEmpty() && path.Find(L'\\') < 0)
+    {
+        path = ResourceFolder() + L"cegui\\" + path;
+    }
+    const CString folder = FullFolder(path);
+    const CString resources = FullFolder(ResourceFolder());
+    const bool holdsResources = resources.Left(folder.GetLength()).CompareNoCase(folder) == 0;
+    return !holdsResources && FileOp::FileExist(folder + SchemeFile) ? folder : CString();
+}
 
 SkinFiles ListSkin(const CString& folder)
 {

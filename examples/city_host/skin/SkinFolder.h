@@ -24,6 +24,15 @@ inline bool operator==(const SkinFileStamp& a, const SkinFileStamp& b)
 /// Files by their names below the folder, such as "new_skin\logo.png".
 using SkinFiles = std::map<CString, SkinFileStamp>;
 
+/// Where the application's skins and pictures lie, with a backslash at the end.
+CString ResourceFolder();
+
+/// The folder of a skin.
+/// @param skin its name among the application's skins, or the path of its folder
+/// @return full path without "." and "..", with a backslash at the end; empty when no skin's scheme lies there, or when it is the
+///     resource folder or one that holds that: a skin of the host's is a folder of its own
+CString ResolveSkinFolder(const CString& skin);
+
 /// What a skin consists of. What the interface writes there, its text pictures, is not counted, nor are folders that no skin
 /// has. @param folder with a backslash at the end
 SkinFiles ListSkin(const CString& folder);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Png.h"
 
+#include <KernelCommonUse/WholeFile.h>
+
 #include <atlimage.h>
 
 namespace host
@@ -24,7 +26,8 @@ bool WritePng(const CString& path, const osg::Image& picture)
             row[x * 3 + 2] = source[x * 3];
         }
     }
-    return SUCCEEDED(image.Save(path));
+    WholeFile file(path);
+    return SUCCEEDED(image.Save(file.Unfinished())) && file.Commit();
 }
 
 } // namespace host
