@@ -19,18 +19,15 @@ struct ReleaseStream
     void operator()(IStream* stream) const { stream->Release(); }
 };
 
-/// A stream over a copy of the bytes and, behind them, the mark that ends a GIF file, which others ignore.
-std::unique_ptr<IStream, ReleaseStream> StreamOf(const void* bytes, std::size_t size)
+/// A stream over a copy of the bytes.
+std::unique_ptr<IStream, ReleaseStream> StreamOf(const std::vector<char>& bytes)
 {
-    constexpr char gifEnd = ';';
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size + 1);
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
     if (!memory)
     {
         return nullptr;
     }
-    char* to = static_cast<char*>(GlobalLock(memory));
-    std::memcpy(to, bytes, size);
-    to[size] = gifEnd;
+    std::memcpy(GlobalLock(memory), bytes.data(), bytes.size());
     GlobalUnlock(memory);
     IStream* stream = nullptr;
     if (CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
@@ -39,6 +36,26 @@ std::unique_ptr<IStream, ReleaseStream> StreamOf(const void* bytes, std::size_t 
         return nullptr;
     }
     return std::unique_ptr<IStream, ReleaseStream>(stream);
+}
+
+/// The file with its first picture alone.
+std::vector<char> OnlyFirstPicture(const char* bytes, std::size_t size)
+{
+    const ImageSizeGuard::Part part = ImageSizeGuard::FirstPicture(bytes, size);
+    std::vector<char> only;
+    if (ImageSizeGuard::IsIcon(bytes, size))
+    {
+        // The head of an icon of one picture, whose entry ends in the picture's place.
+        constexpr std::uint32_t head = 22;
+        only.assign(bytes, bytes + head);
+        only[4] = 1;
+        only[5] = 0;
+        std::memcpy(&only[head - sizeof(head)], &head, sizeof(head));
+    }
+    only.insert(only.end(), bytes + part.at, bytes + part.at + part.size);
+    // Ends a GIF file; others ignore it.
+    only.push_back(';');
+    return only;
 }
 
 /// Empty when the file cannot be read, and when it is larger than any picture file.
@@ -96,25 +113,30 @@ Gdiplus::GpBitmap* BitmapOf(const RgbaPicture& picture, bool alpha)
     return bitmap;
 }
 
-bool IsSafe(const void* bytes, std::size_t size)
+Gdiplus::GpBitmap* Decode(const char* bytes, std::size_t size)
 {
-    return ImageSizeGuard::AllowsFile(bytes, size) && !HasDamagedPng(bytes, size);
+    const ImageSizeGuard::Part first = ImageSizeGuard::FirstPicture(bytes, size);
+    RgbaPicture picture;
+    bool alpha = false;
+    if (IsPng(bytes + first.at, first.size))
+    {
+        return ReadPngFile(bytes + first.at, first.size, picture, alpha) ? BitmapOf(picture, alpha) : nullptr;
+    }
+    if (IsTiff(bytes, size))
+    {
+        return ReadTiffFile(bytes, size, picture, alpha) ? BitmapOf(picture, alpha) : nullptr;
+    }
+    Gdiplus::GpBitmap* bitmap = nullptr;
+    const auto stream = ImageSizeGuard::AllowsFile(bytes, size) ? StreamOf(OnlyFirstPicture(bytes, size)) : nullptr;
+    return stream && GdipCreateBitmapFromStream(stream.get(), &bitmap) == Gdiplus::Ok ? bitmap : nullptr;
 }
 } // namespace
 
 Gdiplus::GpBitmap* DecodeImage(const void* bytes, std::size_t size)
 {
-    Gdiplus::GpBitmap* bitmap = nullptr;
     try
     {
-        if (IsTiff(bytes, size))
-        {
-            RgbaPicture picture;
-            bool alpha = false;
-            return ReadTiffFile(bytes, size, picture, alpha) ? BitmapOf(picture, alpha) : nullptr;
-        }
-        const auto stream = IsSafe(bytes, size) ? StreamOf(bytes, ImageSizeGuard::SizeToFirstPicture(bytes, size)) : nullptr;
-        return stream && GdipCreateBitmapFromStream(stream.get(), &bitmap) == Gdiplus::Ok ? bitmap : nullptr;
+        return Decode(static_cast<const char*>(bytes), size);
     }
     catch (const std::bad_alloc&)
     {
@@ -140,7 +162,7 @@ bool IsSafeImageFile(const wchar_t* path)
     try
     {
         const std::vector<char> bytes = ReadWhole(path);
-        return IsSafe(bytes.data(), bytes.size());
+        return ImageSizeGuard::AllowsFile(bytes.data(), bytes.size());
     }
     catch (const std::bad_alloc&)
     {

@@ -22,6 +22,7 @@ constexpr std::uint64_t Mask = 8; // an icon's, a bit for each pixel
 } // namespace Packed
 
 constexpr char IconSignature[] = "\0\0\1\0";
+constexpr char PngSignature[] = "\x89PNG";
 /// Of a pixel that is decoded.
 constexpr std::uint32_t MostBits = 32;
 
@@ -147,9 +148,6 @@ bool Png(const FileBytes& file)
     return bits > 0 && Fits(file.BigU32(16), file.BigU32(20), MostBits, file.Size(), Packed::Deflate / bits);
 }
 
-constexpr std::uint32_t MostIconPictures = 64;
-constexpr std::uint32_t LongestIconSide = 1024;
-
 /// A bitmap in an icon: without a file header, uncompressed, its height counted twice since a mask follows the pixels.
 bool IconBitmap(const FileBytes& file)
 {
@@ -159,8 +157,7 @@ bool IconBitmap(const FileBytes& file)
     const std::uint64_t height = file.U32(8) / 2;
     const bool plain = file.U32(0) == header && file.U32(16) == 0 && file.U16(12) == 1;
     const bool known = bits == 1 || bits == 4 || bits == 8 || bits == 16 || bits == 24 || bits == 32;
-    if (std::max(width, height) > LongestIconSide || !plain || !known ||
-        !Fits(width, height, MostBits, file.Size(), Packed::Mask))
+    if (!plain || !known || !Fits(width, height, MostBits, file.Size(), Packed::Mask))
     {
         return false;
     }
@@ -169,34 +166,18 @@ bool IconBitmap(const FileBytes& file)
     return colors <= 256 && header + colors * 4 + rows * height <= file.Size();
 }
 
-std::vector<ImageSizeGuard::Part> IconPictures(const FileBytes& file)
+ImageSizeGuard::Part FirstIconPicture(const FileBytes& file)
 {
-    std::vector<ImageSizeGuard::Part> pictures;
-    for (std::uint32_t i = 0; i < std::min(file.U16(4), MostIconPictures); ++i)
-    {
-        const std::size_t entry = 6 + std::size_t(i) * 16;
-        const ImageSizeGuard::Part part = {file.U32(entry + 12), file.U32(entry + 8)};
-        if (part.size > 0 && part.at + part.size <= file.Size())
-        {
-            pictures.push_back(part);
-        }
-    }
-    return pictures;
+    const ImageSizeGuard::Part part = {file.U32(18), file.U32(14)};
+    const bool inside = file.U16(4) > 0 && part.at + part.size <= file.Size();
+    return inside ? part : ImageSizeGuard::Part{0, 0};
 }
 
-/// Every picture of an icon has to be allowed, since decoders differ in which one they take.
 bool Icon(const FileBytes& file)
 {
-    const std::vector<ImageSizeGuard::Part> pictures = IconPictures(file);
-    return !pictures.empty() && pictures.size() == file.U16(4) &&
-           std::all_of(pictures.begin(), pictures.end(),
-                       [&](const ImageSizeGuard::Part& part)
-                       {
-                           const FileBytes picture = file.Part(part.at, part.size);
-                           return picture.BeginsWith("\x89PNG", 4)
-                                      ? std::max(picture.BigU32(16), picture.BigU32(20)) <= LongestIconSide && Png(picture)
-                                      : IconBitmap(picture);
-                       });
+    const ImageSizeGuard::Part part = FirstIconPicture(file);
+    const FileBytes picture = file.Part(part.at, part.size);
+    return picture.BeginsWith(PngSignature, 4) ? Png(picture) : IconBitmap(picture);
 }
 
 bool Tiff(const FileBytes& file)
@@ -223,8 +204,8 @@ bool AllowsFile(const void* bytes, std::size_t size)
         std::size_t length;
         bool (*allows)(const FileBytes& file);
     } kinds[] = {
-        {"BM", 2, Bitmap},         {"GIF87a", 6, Gif},  {"GIF89a", 6, Gif}, {IconSignature, 4, Icon},
-        {"\xFF\xD8\xFF", 3, Jpeg}, {"\x89PNG", 4, Png}, {"II*\0", 4, Tiff}, {"MM\0*", 4, Tiff},
+        {"BM", 2, Bitmap},         {"GIF87a", 6, Gif},     {"GIF89a", 6, Gif}, {IconSignature, 4, Icon},
+        {"\xFF\xD8\xFF", 3, Jpeg}, {PngSignature, 4, Png}, {"II*\0", 4, Tiff}, {"MM\0*", 4, Tiff},
     };
     const FileBytes file(bytes, size);
     const auto kind = std::find_if(std::begin(kinds), std::end(kinds),
@@ -232,15 +213,18 @@ bool AllowsFile(const void* bytes, std::size_t size)
     return kind != std::end(kinds) && kind->allows(file);
 }
 
-std::vector<Part> PicturesOf(const void* bytes, std::size_t size)
+Part FirstPicture(const void* bytes, std::size_t size)
 {
     const FileBytes file(bytes, size);
-    return file.BeginsWith(IconSignature, 4) ? IconPictures(file) : std::vector<Part>{{0, size}};
+    if (IsIcon(bytes, size))
+    {
+        return FirstIconPicture(file);
+    }
+    return {0, file.BeginsWith("GIF8", 4) ? BehindGifPicture(file, FirstGifPicture(file)) : size};
 }
 
-std::size_t SizeToFirstPicture(const void* bytes, std::size_t size)
+bool IsIcon(const void* bytes, std::size_t size)
 {
-    const FileBytes file(bytes, size);
-    return file.BeginsWith("GIF8", 4) ? BehindGifPicture(file, FirstGifPicture(file)) : size;
+    return FileBytes(bytes, size).BeginsWith(IconSignature, 4);
 }
 } // namespace ImageSizeGuard

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 /// The one limit for bitmaps that are made and for picture files that are decoded. GDI+ computes a bitmap's bytes in 32 bits, and
 /// not every implementation of it notices that they do not fit: memory behind the bitmap is overwritten. Decoders allocate for
@@ -21,8 +20,8 @@ bool AllowsBitmap(std::int64_t width, std::int64_t height, int bitsPerPixel = 32
 
 /// Whether a picture file is safe to decode. False for anything but bitmap, GIF, icon, JPEG, PNG and TIFF files, for a picture
 /// that `AllowsBitmap` refuses, for more pixels than a file of this size can hold, however well it is packed, and for a bitmap
-/// file's pixels behind its end. Pictures behind the first one of a GIF or TIFF file do not count: `DecodeImage` decodes the
-/// first one alone. True does not mean that the rest of the file is sound.
+/// file's pixels behind its end. Pictures behind the first one of a GIF file, icon or TIFF file do not count: `DecodeImage`
+/// decodes the first one alone. True does not mean that the rest of the file is sound.
 bool AllowsFile(const void* bytes, std::size_t size);
 
 /// A stretch of a file.
@@ -31,10 +30,11 @@ struct Part
     std::size_t at;
     std::size_t size;
 };
-/// The pictures that an icon holds, those that do not reach beyond its end; the whole of any other file.
-std::vector<Part> PicturesOf(const void* bytes, std::size_t size);
 
-/// How many of a GIF file's bytes lie before the end of its first picture; all of them in any other file. Decoders of GIF files
-/// decode every picture before the first one is available.
-std::size_t SizeToFirstPicture(const void* bytes, std::size_t size);
+/// Where the first picture of an icon is, and the bytes of a GIF file up to the end of its first picture, since decoders of GIF
+/// files decode every picture before the first one is available; the whole of any other file. An icon's is empty when it reaches
+/// beyond the end of the file.
+Part FirstPicture(const void* bytes, std::size_t size);
+
+bool IsIcon(const void* bytes, std::size_t size);
 } // namespace ImageSizeGuard

@@ -5,10 +5,11 @@
 
 #include <cstddef>
 
-/// Reads a PNG file, in a tenth of the time that GDI+ takes to find its decoder. False for anything else, for a damaged one and
-/// for one that `ImageSizeGuard` refuses.
-bool ReadPngFile(const std::uint8_t* data, std::size_t size, RgbaPicture& picture);
+/// PNG files are decoded with libspng and never by GDI+: it takes ten times as long to find its decoder, and not every decoder of
+/// GDI+'s survives a damaged chunk, also behind the pixels.
 
-/// A PNG file that `ReadPngFile` does not take, and an icon that holds one. Not every decoder of GDI+'s survives one whose chunks
-/// are damaged.
-bool HasDamagedPng(const void* data, std::size_t size);
+bool IsPng(const void* data, std::size_t size);
+
+/// False for anything else, for a damaged one and for one that `ImageSizeGuard` refuses.
+/// @param hasAlpha whether the file has an alpha channel or transparent colours
+bool ReadPngFile(const void* data, std::size_t size, RgbaPicture& picture, bool& hasAlpha);

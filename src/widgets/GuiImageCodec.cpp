@@ -50,7 +50,7 @@ bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPictur
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
     bool alpha = false;
-    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture) || ReadTiffFile(data, size, picture, alpha) ||
+    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture, alpha) || ReadTiffFile(data, size, picture, alpha) ||
            DecodeThroughGdiplus(data, size, picture);
 }
 
