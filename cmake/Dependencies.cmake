@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # OpenSceneGraph, CEGUI 0.8 and OpenGL as the one target nx_scene; GDI+, USER, GDI and the registry as nx_win32;
-# the decoder of PNG files as nx_png.
+# the decoders of PNG and TIFF files as nx_png and nx_tiff.
 include_guard(GLOBAL)
 find_package(OpenSceneGraph 3.6 REQUIRED COMPONENTS osgDB osgGA osgUtil osgViewer)
 
@@ -30,6 +30,11 @@ target_include_directories(nx_png SYSTEM INTERFACE ${SPNG_INCLUDE_DIR})
 target_link_libraries(nx_png INTERFACE ${SPNG_LIBRARY})
 # Its functions are found without the attribute that says where, in a static library as well.
 target_compile_definitions(nx_png INTERFACE SPNG_STATIC)
+
+# 4.5 is the first that limits what a decoder may allocate.
+find_package(TIFF 4.5 REQUIRED)
+add_library(nx_tiff INTERFACE)
+target_link_libraries(nx_tiff INTERFACE TIFF::TIFF)
 
 add_library(nx_win32 INTERFACE)
 target_link_libraries(nx_win32 INTERFACE gdiplus gdi32 user32 comdlg32 comctl32 advapi32 ole32 oleaut32 shell32 uuid kernel32)

@@ -3,7 +3,8 @@
 
 #include "gdiplus_start.h"
 
-#include <climits>
+#include <imaging/ImageSizeGuard.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <utility>
@@ -22,12 +23,6 @@ bool IsDepth(int bitsPerPixel)
     return bitsPerPixel == 1 || bitsPerPixel == 4 || bitsPerPixel == 8 || bitsPerPixel == 16 || bitsPerPixel == 24 ||
            bitsPerPixel == 32;
 }
-
-bool FitsMemory(int width, int height, int bitsPerPixel)
-{
-    const std::int64_t rows = std::llabs(static_cast<long long>(height));
-    return width > 0 && rows > 0 && static_cast<std::int64_t>(width) * bitsPerPixel / 8 < INT_MAX / rows;
-}
 } // namespace
 
 CImage::CImage()
@@ -45,7 +40,8 @@ BOOL CImage::Create(int width, int height, int bitsPerPixel, DWORD flags) noexce
 {
     Destroy();
     const bool alpha = (flags & createAlphaChannel) != 0;
-    if (!IsDepth(bitsPerPixel) || (alpha && bitsPerPixel != 32) || !FitsMemory(width, height, bitsPerPixel))
+    if (!IsDepth(bitsPerPixel) || (alpha && bitsPerPixel != 32) ||
+        !ImageSizeGuard::AllowsBitmap(width, std::llabs(height), bitsPerPixel))
     {
         return FALSE;
     }

@@ -51,8 +51,8 @@ public:
     CImage& operator=(const CImage&) = delete;
 
     // A positive height makes a bottom-up bitmap (negative pitch), a negative one a top-down bitmap. createAlphaChannel needs
-    // 32 bits a pixel. All bytes are 0 at first. What was held before is destroyed. False when the sizes, the depth (1, 4, 8,
-    // 16, 24, 32) or memory do not allow it.
+    // 32 bits a pixel. All bytes are 0 at first. What was held before is destroyed. False when the depth (1, 4, 8, 16, 24, 32) or
+    // memory do not allow it, and for a side of more than 32768 pixels or more than 256 MB, as of 64 M pixels of 32 bits.
     BOOL Create(int width, int height, int bitsPerPixel, DWORD flags = 0) noexcept;
     void Destroy() noexcept;
 
@@ -75,7 +75,8 @@ public:
     HDC GetDC() const noexcept;
     void ReleaseDC() const noexcept;
 
-    // E_FAIL when there is no such file or nothing in it that GDI+ can read; then the picture held before is still there.
+    // E_FAIL when there is no such file, nothing in it that can be read, or more pixels than Create allows; then the picture held
+    // before is still there.
     HRESULT Load(LPCWSTR fileName) noexcept;
     // Reads from the stream's position; the stream is not kept.
     HRESULT Load(IStream* stream) noexcept;

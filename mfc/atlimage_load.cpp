@@ -4,6 +4,12 @@
 #include "gdiplus_image.h"
 #include "gdiplus_start.h"
 
+#include <imaging/ImageDecoder.h>
+#include <imaging/ImageSizeGuard.h>
+
+#include <new>
+#include <vector>
+
 using namespace Gdiplus::DllExports;
 
 namespace
@@ -54,61 +60,53 @@ Gdiplus::PixelFormat SectionFormat(Gdiplus::PixelFormat source, bool alpha)
     return known ? source : PixelFormat32bppRGB;
 }
 
-// The whole file as a stream, null when it cannot be read. GDI+ would keep a file open that it cannot decode.
-IStream* StreamOfFile(LPCWSTR fileName)
+// What a stream holds from its position on. Empty when it cannot be read.
+std::vector<char> RestOf(IStream& stream)
 {
-    const HANDLE file = CreateFileW(fileName, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    constexpr ULONG step = 1 << 16;
+    std::vector<char> bytes;
+    ULONG read = 0;
+    std::size_t size = 0;
+    do
     {
-        return nullptr;
-    }
-    IStream* stream = nullptr;
-    LARGE_INTEGER size = {};
-    HGLOBAL memory = nullptr;
-    if (GetFileSizeEx(file, &size) && size.HighPart == 0 && size.LowPart > 0)
-    {
-        memory = GlobalAlloc(GMEM_MOVEABLE, size.LowPart);
-    }
-    if (memory)
-    {
-        DWORD read = 0;
-        const bool whole = ReadFile(file, GlobalLock(memory), size.LowPart, &read, nullptr) && read == size.LowPart;
-        GlobalUnlock(memory);
-        if (!whole || CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
+        bytes.resize(size + step);
+        if (FAILED(stream.Read(bytes.data() + size, step, &read)))
         {
-            GlobalFree(memory);
+            return {};
         }
-    }
-    CloseHandle(file);
-    return stream;
+        size += read;
+    } while (read > 0 && size <= static_cast<std::size_t>(ImageSizeGuard::LargestFile));
+    bytes.resize(size);
+    return bytes;
 }
 } // namespace
 
 HRESULT CImage::Load(LPCWSTR fileName) noexcept
 {
-    IStream* const stream = fileName ? StreamOfFile(fileName) : nullptr;
-    const HRESULT result = Load(stream);
-    if (stream)
-    {
-        stream->Release();
-    }
-    return result;
+    return StartGdiplus() && fileName ? TakeBitmap(GdiplusImage(DecodeImageFile(fileName)).get()) : E_FAIL;
 }
 
 HRESULT CImage::Load(IStream* stream) noexcept
+try
 {
-    Gdiplus::GpBitmap* source = nullptr;
-    if (!StartGdiplus() || !stream || GdipCreateBitmapFromStream(stream, &source) != Gdiplus::Ok)
+    if (!StartGdiplus() || !stream)
     {
         return E_FAIL;
     }
-    const GdiplusImage owner(source);
-    return TakeBitmap(source);
+    const std::vector<char> bytes = RestOf(*stream);
+    return TakeBitmap(GdiplusImage(DecodeImage(bytes.data(), bytes.size())).get());
+}
+catch (const std::bad_alloc&)
+{
+    return E_FAIL;
 }
 
 HRESULT CImage::TakeBitmap(Gdiplus::GpBitmap* source)
 {
+    if (!source)
+    {
+        return E_FAIL;
+    }
     UINT width = 0;
     UINT height = 0;
     Gdiplus::PixelFormat sourceFormat = PixelFormatUndefined;

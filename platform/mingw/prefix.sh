@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes a folder like one with libraries for Windows in it: GoogleTest, pugixml and libspng, built from the distribution's sources, and the
+# Makes a folder like one with libraries for Windows in it: GoogleTest, pugixml, libspng and libtiff, built from the distribution's sources, and the
 # headers of OpenSceneGraph and CEGUI, which are the Linux distribution's as far as they are the same.
 #   prefix.sh FOLDER
 set -euo pipefail
@@ -36,6 +36,7 @@ ln -sfn "$prefix/osg-win32/include/osgViewer/api/Win32" "$include/osgViewer/api/
 ln -sf "$prefix"/pugixml/src/*.hpp "$include/"
 "$root/platform/fetch_source.sh" libspng "$prefix/libspng" '*/spng/spng.*'
 ln -sf "$prefix/libspng/spng/spng.h" "$include/"
+"$root/platform/fetch_source.sh" tiff "$prefix/libtiff" '*'
 ln -sfn /usr/src/googletest/googletest/include/gtest "$include/gtest"
 
 objects=$prefix/objects
@@ -53,6 +54,16 @@ done
 mkdir -p "$objects/zlib"
 (cd "$objects/zlib" && x86_64-w64-mingw32-ar x "$(x86_64-w64-mingw32-gcc-posix -print-file-name=libz.a)")
 x86_64-w64-mingw32-ar rcs "$prefix/lib/libspng.a" "$objects/spng.o" "$objects"/zlib/*.o
+# With zlib in it, too, and without the codecs that want further libraries.
+tiff_options=(-Dtiff-tools=OFF -Dtiff-tests=OFF -Dtiff-contrib=OFF -Dtiff-docs=OFF -Dcxx=OFF -DBUILD_SHARED_LIBS=OFF
+    "-DZLIB_LIBRARY=$(x86_64-w64-mingw32-gcc-posix -print-file-name=libz.a)" -DZLIB_INCLUDE_DIR=/usr/x86_64-w64-mingw32/include)
+for codec in libdeflate pixarlog jpeg old-jpeg jpeg12 jbig lerc lzma zstd webp; do tiff_options+=("-D$codec=OFF"); done
+cmake -S "$prefix/libtiff" -B "$objects/tiff" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$root/platform/mingw/toolchain.cmake" \
+    -DCMAKE_C_FLAGS="-O2 -w" "${tiff_options[@]}" >"$objects/tiff.log" 2>&1 || { cat "$objects/tiff.log" >&2; exit 1; }
+ninja -C "$objects/tiff" tiff >>"$objects/tiff.log" 2>&1 || { cat "$objects/tiff.log" >&2; exit 1; }
+cp "$(find "$objects/tiff" -name 'libtiff*.a' | head -n 1)" "$prefix/lib/libtiff.a"
+x86_64-w64-mingw32-ar rs "$prefix/lib/libtiff.a" "$objects"/zlib/*.o 2>/dev/null
+cp "$prefix"/libtiff/libtiff/{tiff,tiffio,tiffvers}.h "$objects/tiff/libtiff/tiffconf.h" "$include/"
 mkdir -p "$prefix/lib/cmake/pugixml"
 cat >"$prefix/lib/cmake/pugixml/pugixml-config.cmake" <<CONFIG
 add_library(pugixml::pugixml STATIC IMPORTED)

@@ -10,7 +10,7 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 build=${NX_BUILD:-$root/build}
 packages=(wine wine64 libwine-dev wine64-tools g++ cmake ninja-build pkg-config libopenscenegraph-dev libcegui-mk2-dev
     libglew-dev libglm-dev libgl1-mesa-dri libx11-dev libxcomposite1 libxcursor1 libxi6 libxrandr2 xvfb xauth imagemagick
-    libgtest-dev libpugixml-dev librsvg2-bin libspng-dev fonts-noto-cjk fonts-dejavu-core fonts-wine dpkg-dev
+    libgtest-dev libpugixml-dev librsvg2-bin libspng-dev libtiff-dev fonts-noto-cjk fonts-dejavu-core fonts-wine dpkg-dev
     clang-format-14)
 
 say()

@@ -9,6 +9,7 @@
 #include "../widgets/FileImageset.h"
 #include "../widgets/Names.h"
 #include "../widgets/TextPicture.h"
+#include "../widgets/WholePixels.h"
 #include "../widgets/WindowNames.h"
 #include "ChromeEvents.h"
 #include "FrameNames.h"
@@ -16,9 +17,12 @@
 #include <KernelCommonUse/MultiLanguage.h>
 
 #include <CEGUI/Exceptions.h>
+#include <CEGUI/Renderer.h>
+#include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -44,6 +48,11 @@ void RemovePictureTitle()
     }
 }
 
+UINT TitlePixels(float height)
+{
+    return static_cast<UINT>(std::max(0, WholePixels(height)));
+}
+
 void SubscribeTitle(CEGUI::Window& window)
 {
     window.subscribeEvent(CEGUI::Window::EventMouseButtonUp, CEGUI::SubscriberSlot(&OnTitleButtonUp));
@@ -58,17 +67,19 @@ const CString& DrawnFace(const CString& face, const CString& preferred)
 
 CSize CeGuiMainFrame::SceneTitleSize() const
 {
-    const CSize size = MeasureTextExtent(DrawnFace(sceneTitleFontStyle_, preferredFontFace_),
-                                         static_cast<int>(sceneTitleFontHeight_), sceneTitle_);
+    const CSize size =
+        MeasureTextExtent(DrawnFace(sceneTitleFontStyle_, preferredFontFace_), WholePixels(sceneTitleFontHeight_), sceneTitle_);
+    // A larger picture could not be shown.
+    const LONG longest = static_cast<LONG>(CEGUI::System::getSingleton().getRenderer()->getMaxTextureSize());
     // An empty title keeps a place, and so does one in a font that is not there: another font then brings it back.
-    return size.cy > 0 ? size : CSize(EmptyTitleSize);
+    return size.cy > 0 ? CSize(std::min(size.cx, longest), std::min(size.cy, longest)) : CSize(EmptyTitleSize);
 }
 
 void CeGuiMainFrame::AddTitleText(CeGuiToolBar& bar)
 {
     const CSize size = SceneTitleSize();
     const RECT rect = {TextLeft, (titleBarHeight_ - size.cy) / 2, TextLeft + size.cx, (titleBarHeight_ + size.cy) / 2};
-    titleTextItem_ = bar.AddTextImage(rect, FrameNames::TitleText, sceneTitle_, static_cast<UINT>(sceneTitleFontHeight_),
+    titleTextItem_ = bar.AddTextImage(rect, FrameNames::TitleText, sceneTitle_, TitlePixels(sceneTitleFontHeight_),
                                       DrawnFace(sceneTitleFontStyle_, preferredFontFace_), sceneTitleColor_);
     if (titleTextItem_ >= 0)
     {
@@ -95,7 +106,7 @@ void CeGuiMainFrame::ChangeTitleText(const CString& title, COLORREF color, CStri
     const CSize size = SceneTitleSize();
     const CString file =
         CreateTextImageFile(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy), FrameNames::TitleText, sceneTitle_,
-                            static_cast<UINT>(sceneTitleFontHeight_), sceneTitleFontStyle_, sceneTitleColor_);
+                            TitlePixels(sceneTitleFontHeight_), sceneTitleFontStyle_, sceneTitleColor_);
     if (!file.IsEmpty())
     {
         const LONG top = (bar->rect.bottom - bar->rect.top - size.cy) / 2;

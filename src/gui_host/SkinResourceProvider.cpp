@@ -12,6 +12,14 @@
 #include <algorithm>
 #include <string_view>
 
+namespace
+{
+std::string_view BytesOf(const CEGUI::RawDataContainer& data)
+{
+    return std::string_view(reinterpret_cast<const char*>(data.getDataPtr()), data.getSize());
+}
+} // namespace
+
 void SkinResourceProvider::loadRawDataContainer(const CEGUI::String& filename, CEGUI::RawDataContainer& output,
                                                 const CEGUI::String& resourceGroup)
 {
@@ -26,13 +34,17 @@ void SkinResourceProvider::loadRawDataContainer(const CEGUI::String& filename, C
     {
         imageset_.push_back(LastRead());
     }
-    const std::string_view bytes(reinterpret_cast<const char*>(output.getDataPtr()), output.getSize());
-    const std::string mismatch = SkinFileKind::Mismatch(lastFile_, bytes);
+    const std::string mismatch = SkinFileKind::Mismatch(lastFile_, BytesOf(output));
     if (!mismatch.empty())
     {
         throw CEGUI::FileIOException("'" + filename + "' is another kind of file: " + mismatch);
     }
     TranslateOldSkin(filename, resourceGroup, output);
+    const std::string wrong = nesting_.Add(BytesOf(output));
+    if (!wrong.empty())
+    {
+        throw CEGUI::FileIOException("'" + filename + "' is refused: " + wrong);
+    }
 }
 
 void SkinResourceProvider::RereadLooks()
@@ -63,8 +75,7 @@ void SkinResourceProvider::TranslateOldSkin(const CEGUI::String& filename, const
                                             CEGUI::RawDataContainer& data)
 {
     std::vector<OldSkin::LeftOut> leftOut;
-    const std::string_view bytes(reinterpret_cast<const char*>(data.getDataPtr()), data.getSize());
-    const std::optional<std::string> translated = oldSkin_.Translate(bytes, leftOut);
+    const std::optional<std::string> translated = oldSkin_.Translate(BytesOf(data), leftOut);
     if (!translated)
     {
         return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../widgets/GuiResourceProvider.h"
+#include "LookNesting.h"
 #include "OldSkin.h"
 
 #include <set>
@@ -10,7 +11,7 @@
 #include <vector>
 
 /// Hands on the files of skins for CEGUI 0.6 in 0.8's formats, and any other file as it is. What is left out of an old file is
-/// a line each in the log, once.
+/// a line each in the log, once. A file whose looks hold themselves is refused.
 class SkinResourceProvider : public GuiResourceProvider
 {
 public:
@@ -33,6 +34,7 @@ private:
     void TranslateOldSkin(const CEGUI::String& filename, const CEGUI::String& group, CEGUI::RawDataContainer& data);
 
     OldSkin oldSkin_;
+    LookNesting nesting_;
     /// The files that were asked for last, of any kind and of XML.
     std::string lastFile_;
     std::string lastXml_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyPictures.h"
 
+#include "../widgets/DecodedPicture.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/ImageEncoder.h"
 #include "ShortenText.h"
@@ -47,8 +48,7 @@ public:
     explicit Drawing(int height) : fontName_(Translation("LKEY11"))
     {
         const CString path = ResourceDirectory() + L"new_skin/DlgPropertyTemple.png";
-        gp::RequireGdiplus();
-        template_ = gp::Make<gp::Bitmap>([&](gp::GpBitmap** b) { return gp::GdipCreateBitmapFromFile(path, b); });
+        template_ = DecodedPicture(path);
         if (!template_)
         {
             LogFailure("property panel's template not loaded", CString2string(path));
@@ -57,6 +57,8 @@ public:
         bitmap_ = gp::NewBitmap(PanelWidth, height);
         if (!bitmap_)
         {
+            LogFailure("property panel's picture not drawn",
+                       std::to_string(PanelWidth) + " x " + std::to_string(height) + " pixels");
             return;
         }
         graphics_ = gp::GraphicsOf(bitmap_.get());
@@ -72,8 +74,8 @@ public:
 
     void Slice(const gp::GpRect& slice, int y)
     {
-        gp::GdipDrawImageRectRectI(graphics_.get(), template_.get(), 0, y, slice.Width, slice.Height, slice.X, slice.Y,
-                                   slice.Width, slice.Height, gp::UnitPixel, nullptr, nullptr, nullptr);
+        gp::GdipDrawImageRectRectI(graphics_.get(), template_, 0, y, slice.Width, slice.Height, slice.X, slice.Y, slice.Width,
+                                   slice.Height, gp::UnitPixel, nullptr, nullptr, nullptr);
     }
 
     /// Neither broken nor clipped.
@@ -102,7 +104,7 @@ public:
 
 private:
     CString fontName_;
-    gp::Bitmap template_;
+    gp::GpBitmap* template_ = nullptr;
     gp::Bitmap bitmap_;
     gp::Graphics graphics_;
     gp::Font font_;

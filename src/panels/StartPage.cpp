@@ -2,6 +2,7 @@
 // The start page of a published presentation, printed with GDI.
 #include <NxOsgCeGui/CeGuiMainFrame.h>
 
+#include "../imaging/ImageDecoder.h"
 #include "../widgets/FailureLog.h"
 
 #include <KernelCommonUse/StringConvert.h>
@@ -80,7 +81,7 @@ void CeGuiMainFrame::ClearStaPageParameter()
     startPage_.picture = resources + L"pics/kwexeGuiImage.bmp";
 
     CImage image;
-    if (FAILED(image.Load(startPage_.picture)))
+    if (!IsSafeImageFile(startPage_.picture) || FAILED(image.Load(startPage_.picture)))
     {
         LogFailure("start page picture not loaded", CString2string(startPage_.picture));
         return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Thumbnails.h"
 
+#include "../widgets/DecodedPicture.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileStamp.h"
 #include "../widgets/ImageEncoder.h"
@@ -60,30 +61,10 @@ std::map<CString, Composition>& KnownCompositions()
     return known;
 }
 
-/// A picture of the skin, decoded once for all entries until its file changes.
-/// @return null when the file is missing or no picture; good until the next call for the same file
-gp::GpBitmap* SkinPicture(const CString& file)
-{
-    struct Decoded
-    {
-        FileStamp stamp;
-        gp::Bitmap picture;
-    };
-    // Never destroyed on purpose: GDI+ may be gone when the module goes.
-    static auto& decoded = *new std::map<CString, Decoded>;
-    Decoded& known = decoded[file];
-    const FileStamp stamp = StampOf(file);
-    if (!known.picture || !(known.stamp == stamp))
-    {
-        known = {stamp, gp::LoadBitmapFile(file)};
-    }
-    return known.picture.get();
-}
-
 /// The border's picture as a bitmap to draw on, or a blank one.
 gp::Bitmap NewCanvas(const CString& borderFile)
 {
-    if (gp::GpBitmap* const border = SkinPicture(borderFile))
+    if (gp::GpBitmap* const border = DecodedPicture(borderFile))
     {
         UINT width = 0;
         UINT height = 0;
@@ -154,13 +135,13 @@ std::string Render(const Composition& inputs, gp::GpBitmap* picture, const CStri
         {
             return missing(shown);
         }
-        if (inputs.kind == VideoKind && !Draw(graphics.get(), SkinPicture(ResourceFile(PlayMark)), PlayMarkRect))
+        if (inputs.kind == VideoKind && !Draw(graphics.get(), DecodedPicture(ResourceFile(PlayMark)), PlayMarkRect))
         {
             return missing(ResourceFile(PlayMark));
         }
         const gp::GpRect plate = {PlateRight - PlateMargin - caption.right, PlateBottom - PlateMargin - caption.bottom,
                                   caption.right + PlateMargin, caption.bottom + PlateMargin};
-        if (!Draw(graphics.get(), SkinPicture(ResourceFile(skin.plate)), plate))
+        if (!Draw(graphics.get(), DecodedPicture(ResourceFile(skin.plate)), plate))
         {
             return missing(ResourceFile(skin.plate));
         }

@@ -4,6 +4,7 @@
 #include "../widgets/FailureLog.h"
 #include "../widgets/ImageEncoder.h"
 #include "../widgets/TextMeasurer.h"
+#include "../widgets/WholePixels.h"
 
 #include <KernelCommonUse/FileOp.h>
 #include <KernelCommonUse/MultiLanguage.h>
@@ -36,9 +37,9 @@ bool DrawAndSave(const CString& text, int maxWidth, const CString& path)
     }
     const gp::RectF box = TextMeasurer(fontName, FontPixels, gp::TextRenderingHintClearTypeGridFit).Box(drawn);
     const CSize logical = TooltipSize(text);
-    const int wanted = box.Width > logical.cx ? static_cast<int>(box.Width + Margins) : logical.cx;
+    const int wanted = box.Width > logical.cx ? WholePixels(box.Width + Margins) : logical.cx;
     const int width = std::min(wanted, maxWidth);
-    const int height = box.Height > Height ? static_cast<int>(box.Height + Margins) : Height;
+    const int height = box.Height > Height ? WholePixels(box.Height + Margins) : Height;
     const gp::Bitmap bitmap = gp::NewBitmap(width, height);
     if (!bitmap)
     {
@@ -71,8 +72,8 @@ bool DrawAndSave(const CString& text, int maxWidth, const CString& path)
 
 CSize TooltipSize(const CString& text)
 {
-    const int bytes = static_cast<int>(strUtf8ToAnsi(CString2string(text)).size());
-    return CSize(ByteWidth * bytes + SideMargins, Height);
+    const double bytes = static_cast<double>(strUtf8ToAnsi(CString2string(text)).size());
+    return CSize(WholePixels(ByteWidth * bytes + SideMargins), Height);
 }
 
 bool WriteTooltipPicture(const CString& text, int maxWidth)

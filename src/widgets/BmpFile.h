@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "../imaging/RgbaPicture.h"
 #include "Gdiplus.h"
 
 #include <atlstr.h>
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
-
-/// Pixels in rows from the top, four bytes each: red, green, blue, alpha (not premultiplied).
-struct RgbaPicture
-{
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> pixels;
-};
 
 /// Writes a bitmap file of 32 bits a pixel, uncompressed, with the alpha in the fourth byte.
 /// @return false when the bitmap or the file could not be had; a partly written file may remain then

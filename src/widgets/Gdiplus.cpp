@@ -1,65 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Gdiplus.h"
 
-#include "PictureClaim.h"
-#include "PngFile.h"
+#include "../imaging/ImageSizeGuard.h"
 
 #include <atlimage.h>
-
-#include <cstring>
-#include <vector>
 
 namespace gp
 {
 namespace
 {
-struct ReleaseStream
-{
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
-/// A stream over a copy of the bytes.
-std::unique_ptr<IStream, ReleaseStream> StreamOf(const void* bytes, std::size_t size)
-{
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-    if (!memory)
-    {
-        return nullptr;
-    }
-    std::memcpy(GlobalLock(memory), bytes, size);
-    GlobalUnlock(memory);
-    IStream* stream = nullptr;
-    if (CreateStreamOnHGlobal(memory, TRUE, &stream) != S_OK)
-    {
-        GlobalFree(memory);
-        return nullptr;
-    }
-    return std::unique_ptr<IStream, ReleaseStream>(stream);
-}
-
-/// Empty also when the file cannot be read.
-std::vector<char> ReadWhole(const wchar_t* path)
-{
-    std::vector<char> bytes;
-    const HANDLE file = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-    {
-        return bytes;
-    }
-    LARGE_INTEGER size = {};
-    DWORD read = 0;
-    if (GetFileSizeEx(file, &size) && size.HighPart == 0)
-    {
-        bytes.resize(size.LowPart);
-        if (!ReadFile(file, bytes.data(), size.LowPart, &read, nullptr) || read != size.LowPart)
-        {
-            bytes.clear();
-        }
-    }
-    CloseHandle(file);
-    return bytes;
-}
-
 /// Never destroyed on purpose: families of it may be in use to the end. Null while there are none.
 GpFontCollection* addedFonts = nullptr;
 } // namespace
@@ -81,6 +30,10 @@ void RequireGdiplus()
 Bitmap NewBitmap(int width, int height)
 {
     RequireGdiplus();
+    if (!ImageSizeGuard::AllowsBitmap(width, height))
+    {
+        return nullptr;
+    }
     return Make<Bitmap>([&](GpBitmap** bitmap)
                         { return GdipCreateBitmapFromScan0(width, height, 0, PixelFormat32bppARGB, nullptr, bitmap); });
 }
@@ -108,14 +61,13 @@ void FillExactly(GpBitmap* bitmap, ARGB color)
 Bitmap BitmapOf(const void* bytes, std::size_t size)
 {
     RequireGdiplus();
-    const auto stream = ClaimsWhatItCanHold(bytes, size) && !IsDamagedPng(bytes, size) ? StreamOf(bytes, size) : nullptr;
-    return stream ? Make<Bitmap>([&](GpBitmap** bitmap) { return GdipCreateBitmapFromStream(stream.get(), bitmap); }) : nullptr;
+    return Bitmap(DecodeImage(bytes, size));
 }
 
 Bitmap LoadBitmapFile(const wchar_t* path)
 {
-    const std::vector<char> bytes = ReadWhole(path);
-    return BitmapOf(bytes.data(), bytes.size());
+    RequireGdiplus();
+    return Bitmap(DecodeImageFile(path));
 }
 
 FontFamily NewFontFamily(const wchar_t* name)
@@ -145,7 +97,8 @@ Font NewFont(const GpFontFamily* family, float pixels)
         [&](GpFont** font)
         {
             *font = nullptr;
-            return family ? GdipCreateFont(family, pixels, FontStyleRegular, UnitPixel, font) : FontFamilyNotFound;
+            const bool allowed = pixels > 0 && pixels <= static_cast<float>(ImageSizeGuard::LongestSide);
+            return family && allowed ? GdipCreateFont(family, pixels, FontStyleRegular, UnitPixel, font) : FontFamilyNotFound;
         });
 }
 

@@ -1,20 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <windows.h>
-
-#include <objidl.h>
-
-#include <algorithm>
-
-// GDI+'s headers use the macros that NOMINMAX takes away.
-namespace Gdiplus
-{
-using std::max;
-using std::min;
-} // namespace Gdiplus
-
-#include <gdiplus.h>
+#include "../imaging/ImageDecoder.h"
 
 #include <cstddef>
 #include <memory>
@@ -61,21 +48,20 @@ Owner Make(Create create)
     return Owner(object);
 }
 
-/// A bitmap of 32-bit ARGB, transparent black; null when it could not be had.
+/// A bitmap of 32-bit ARGB, transparent black; null when `ImageSizeGuard` refuses the size and when there is no memory for it.
 Bitmap NewBitmap(int width, int height);
 /// Gives every pixel exactly this colour. Neither filling nor clearing is sure to keep the colour of what is fully
 /// transparent.
 void FillExactly(GpBitmap* bitmap, ARGB color);
-/// The picture in a file's bytes; null when no decoder reads them, and when the file claims more than it can hold.
+/// The picture in a file's bytes; null when `DecodeImage` refuses them.
 Bitmap BitmapOf(const void* bytes, std::size_t size);
-/// A picture file; null when it is missing or no picture. It is read as a whole first: decoders read in small steps, and on
-/// files each of these may cost as much as the whole.
+/// A picture file; null when it is missing or no picture.
 Bitmap LoadBitmapFile(const wchar_t* path);
 /// The font family, or null when no such family is installed.
 FontFamily NewFontFamily(const wchar_t* name);
 /// Makes the families of a font file known that was installed while the process ran: GDI+ may have listed all fonts before.
 void AddFontFile(const wchar_t* path);
-/// A regular font with an em height in pixels; null without a family.
+/// A regular font with an em height in pixels; null without a family, and for a height that is not above 0 or that no bitmap has.
 Font NewFont(const GpFontFamily* family, float pixels);
 /// Text aligned near, with GDI+'s default rules.
 StringFormat NewStringFormat();

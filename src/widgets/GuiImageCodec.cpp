@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "GuiImageCodec.h"
 
-#include "PngFile.h"
+#include "../imaging/ImageSizeGuard.h"
+#include "../imaging/PngFile.h"
+#include "../imaging/TiffFile.h"
 
 #include <CEGUI/DataContainer.h>
 #include <CEGUI/Size.h>
@@ -9,16 +11,13 @@
 
 namespace
 {
-constexpr UINT MaxSide = 32768;
-
 bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
     const gp::Bitmap bitmap = gp::BitmapOf(data, size);
     UINT width = 0;
     UINT height = 0;
     if (!bitmap || gp::GdipGetImageWidth(bitmap.get(), &width) != gp::Ok ||
-        gp::GdipGetImageHeight(bitmap.get(), &height) != gp::Ok || width == 0 || height == 0 || width > MaxSide ||
-        height > MaxSide)
+        gp::GdipGetImageHeight(bitmap.get(), &height) != gp::Ok || !ImageSizeGuard::AllowsBitmap(width, height))
     {
         return false;
     }
@@ -50,7 +49,9 @@ bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPictur
 
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
-    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture) || DecodeThroughGdiplus(data, size, picture);
+    bool alpha = false;
+    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture, alpha) || ReadTiffFile(data, size, picture, alpha) ||
+           DecodeThroughGdiplus(data, size, picture);
 }
 
 GuiImageCodec::GuiImageCodec() : ImageCodec("NxOsgCeGui picture codec")

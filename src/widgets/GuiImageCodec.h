@@ -5,9 +5,9 @@
 
 #include <CEGUI/ImageCodec.h>
 
-/// Decodes a picture file's bytes: 32-bit bitmap files with their alpha, PNG files by libspng, everything else through GDI+.
-/// @return false when they are no picture that can be read, or one with a side of more than 32768 pixels, and through GDI+ for
-///     more than 64 M pixels or more than a file of this size can hold
+/// Decodes a picture file's bytes: 32-bit bitmap files with their alpha, PNG files by libspng, TIFF files by
+/// libtiff, everything else through GDI+.
+/// @return false when they are no picture that can be read, and for one that `ImageSizeGuard` refuses
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture);
 
 /// CEGUI's image codec over `DecodePicture`. CEGUI's own codecs lose or refuse the alpha of 32-bit bitmap files.

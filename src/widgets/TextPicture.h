@@ -8,8 +8,10 @@
 /// heights are em heights in pixels, colours are COLORREF (0x00BBGGRR).
 
 /// Draws text into a new picture file of width x height pixels, on full transparency. The kind of file follows the path's
-/// extension. A family that is not installed yields a picture without text, which is not a failure but logged.
-/// @return whether the file was saved; on failure (logged) a file that was there stays as it was
+/// extension. A family that is not installed, and a height of 0 or of more than `ImageSizeGuard::LongestSide`, yields a picture
+/// without text, which is not a failure but logged.
+/// @return whether the file was saved; on failure (logged), as for a size that `ImageSizeGuard` refuses, a file that was there
+/// stays as it was
 bool DrawTextToImageFile(const CString& path, UINT width, UINT height, const CString& fontName, UINT fontHeight, COLORREF color,
                          const CString& text);
 

@@ -2,6 +2,8 @@
 // Pictures and skin files that are missing or no pictures.
 #include "Thumbnail.h"
 
+#include "support/Spoiling.h"
+
 class ThumbnailFailureTest : public ThumbnailTest
 {
 protected:
@@ -27,6 +29,20 @@ TEST_F(ThumbnailFailureTest, a_file_that_is_no_picture_gives_no_thumbnail)
     ExpectFailure(Write(L"cut.png", cut));
     EXPECT_TRUE(ReadBytes(NormalFile(7)).empty());
     EXPECT_TRUE(ReadBytes(PushedFile(7)).empty());
+}
+
+TEST_F(ThumbnailFailureTest, damaged_tiff_files_give_a_thumbnail_or_one_line)
+{
+    const Bytes sound = ReadBytes(Write(L"sound.tiff", Motley(40, 30), L"image/tiff"));
+    int refused = 0;
+    for (unsigned int seed = 0; seed < 60; ++seed)
+    {
+        SCOPED_TRACE(seed);
+        const bool made = !MakeThumbnail(L"caption", Write(L"damaged.tiff", Spoilt(sound, seed)), 7, 0).IsEmpty();
+        refused += !made;
+        EXPECT_EQ(TakeLog().size(), made ? 0u : 1u);
+    }
+    EXPECT_GT(refused, 10);
 }
 
 TEST_F(ThumbnailFailureTest, after_a_failure_a_good_picture_is_composed)

@@ -2,6 +2,8 @@
 // What a thumbnail is composed of, byte for byte.
 #include "Thumbnail.h"
 
+#include "widgets/PackedPictures.h"
+
 namespace
 {
 constexpr std::uint32_t Red = 0xFFFF0000;
@@ -195,4 +197,32 @@ TEST_F(ThumbnailTest, a_wide_caption_starts_at_the_left_and_runs_past_the_right_
     EXPECT_GE(firstWhite, 5);
     EXPECT_LE(firstWhite, 13);
     EXPECT_GE(lastWhite, 123) << "over frame and edge";
+}
+
+TEST_F(ThumbnailTest, files_whose_first_picture_alone_counts_are_shown)
+{
+    const Bytes still = ReadBytes(Write(L"still.gif", Solid(800, 600, Red), L"image/gif"));
+    const Bytes png = ReadBytes(Write(L"large_icon.png", Solid(256, 256, Red)));
+    const struct
+    {
+        const wchar_t* file;
+        Bytes bytes;
+        std::uint32_t color;
+    } rows[] = {
+        {L"animated.gif", Animation(still, 150), Red},
+        {L"panorama.jpg", GreyJpeg(9008, 7600), 0xFF808080},
+        {L"bitmap.ico", Icon({IconBitmap(48, Green)}), Green},
+        {L"png.ico", Icon({png}), Red},
+        {L"page.tiff", WhiteFax(2480, 3508), 0xFFFFFFFF},
+        {L"fine_page.tiff", WhiteFax(4960, 7016), 0xFFFFFFFF},
+        {L"pages.tiff", GreyTiff({{40, 30, 0x77, 1200}, {60000, 60000, 0, 10}}), 0xFF777777},
+    };
+    for (const auto& row : rows)
+    {
+        SCOPED_TRACE(Utf8(row.file));
+        EXPECT_EQ(MakeThumbnail(L"", Write(row.file, row.bytes), 7, 0), ThumbnailStem(7));
+        EXPECT_EQ(ReadPictureFile(NormalFile(7)).Argb(60, 30), row.color);
+        EXPECT_EQ(ReadPictureFile(PushedFile(7)).Argb(20, 60), row.color);
+        EXPECT_EQ(TakeLog(), Lines{});
+    }
 }

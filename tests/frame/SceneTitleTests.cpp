@@ -7,10 +7,13 @@
 #include <panels/FontNames.h>
 #include <widgets/Gdiplus.h>
 
+#include <CEGUI/Renderer.h>
+#include <CEGUI/System.h>
 #include <CEGUI/Window.h>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace
 {
@@ -255,4 +258,79 @@ TEST_F(SceneTitleTest, a_long_title_leaves_the_window_buttons_within_reach)
     EXPECT_GT(GuiHost::RectOf(TitleText).right, 800);
     Host().Click(684, 25);
     EXPECT_TRUE(Frame().IsFullScene());
+}
+
+TEST_F(SceneTitleTest, a_title_wider_than_the_largest_texture_ends_where_the_texture_does)
+{
+    const CString dashes(L'\x2E3B', 100);
+    const int widest = static_cast<int>(CEGUI::System::getSingleton().getRenderer()->getMaxTextureSize());
+    ASSERT_GT(Measured(dashes, 100).cx, widest);
+    Frame().ChangeTitleText(dashes, Yellow, Font, 100.0f);
+    EXPECT_EQ(GuiHost::RectOf(TitleText).left, 50);
+    EXPECT_EQ(GuiHost::RectOf(TitleText).right, 50 + widest);
+    EXPECT_GT(YellowPixels(), 50);
+    Rebuild();
+    EXPECT_EQ(GuiHost::RectOf(TitleText).right, 50 + widest);
+    EXPECT_GT(YellowPixels(), 50);
+    EXPECT_TRUE(Visible("TavTilteCloseButtom"));
+    EXPECT_EQ(TakeLog(), Lines{});
+    Frame().ChangeTitleText(L"Short", Yellow, Font, 20.0f);
+    EXPECT_EQ(Place(TitleText), ExpectedPlace(L"Short", 20));
+}
+
+TEST_F(SceneTitleTest, a_height_that_no_bitmap_has_leaves_the_former_picture)
+{
+    Frame().ChangeTitleText(L"Former", Yellow, Font, 20.0f);
+    const std::vector<std::uint8_t> former = ReadBytes(SkinDir() + L"TavTilteText.bmp");
+    const std::string place = Place(TitleText);
+    for (const float height : {9000.0f, 20000.0f, 70000.0f, 1e9f, 3e9f, 1e30f, std::numeric_limits<float>::infinity()})
+    {
+        SCOPED_TRACE(height);
+        Frame().ChangeTitleText(L"A title of some words", Yellow, Font, height);
+        EXPECT_EQ(Frame().GetSceneTitleFontHeight(), height);
+        EXPECT_EQ(Place(TitleText), place);
+        EXPECT_EQ(ReadBytes(SkinDir() + L"TavTilteText.bmp"), former);
+        const Lines log = TakeLog();
+        ASSERT_EQ(log.size(), 1u);
+        EXPECT_EQ(log[0].find("NxOsgCeGui: text picture not written, no bitmap of "), 0u) << log[0];
+    }
+}
+
+TEST_F(SceneTitleTest, a_height_that_no_bitmap_has_does_not_keep_the_frame_from_being_built)
+{
+    for (const float height : {9000.0f, 1e9f, std::numeric_limits<float>::infinity()})
+    {
+        SCOPED_TRACE(height);
+        Frame().SetSceneTitle(L"A title of some words");
+        Frame().SetSceneTitleFontStyle(Font);
+        Frame().SetSceneTitleFontHeight(height);
+        Rebuild();
+        EXPECT_EQ(Place("TavTitleBackground"), "0,0 - 800,50");
+        EXPECT_EQ(Place("TavBotCtrlFrame"), "1,508 - 584,598");
+        EXPECT_TRUE(Visible("TavTilteCloseButtom"));
+        EXPECT_EQ(TakeLog().size(), 1u);
+    }
+    Frame().SetSceneTitleFontHeight(20.0f);
+    Rebuild();
+    EXPECT_EQ(Place(TitleText), ExpectedPlace(L"A title of some words", 20));
+}
+
+TEST_F(SceneTitleTest, a_height_of_nothing_keeps_a_slot_without_text)
+{
+    const float infinity = std::numeric_limits<float>::infinity();
+    for (const float height : {0.0f, 0.9f, -1.0f, -1e9f, -1e30f, -infinity, std::numeric_limits<float>::quiet_NaN()})
+    {
+        SCOPED_TRACE(height);
+        Frame().ChangeTitleText(L"Unseen", Yellow, Font, height);
+        EXPECT_EQ(Place(TitleText), "50,10 - 150,40");
+        EXPECT_EQ(YellowPixels(), 0);
+        const Lines log = TakeLog();
+        ASSERT_EQ(log.size(), 1u);
+        EXPECT_EQ(log[0].find("NxOsgCeGui: no font of this height, text left out of "), 0u) << log[0];
+        Rebuild();
+        EXPECT_EQ(Place(TitleText), "50,10 - 150,40");
+        EXPECT_EQ(TakeLog().size(), 1u);
+        Frame().ChangeTitleText(L"Seen", Yellow, Font, 20.0f);
+        EXPECT_EQ(Place(TitleText), ExpectedPlace(L"Seen", 20));
+    }
 }

@@ -13,6 +13,7 @@ void FuzzLanguageTable(const std::string& bytes);
 void FuzzParameters(const std::string& bytes);
 void FuzzMenu(const std::string& bytes);
 void FuzzPicture(const std::string& bytes);
+void FuzzTiff(const std::string& bytes);
 void FuzzOldSkin(const std::string& bytes);
 void FuzzWindowNames(const std::string& bytes);
 
@@ -39,10 +40,10 @@ CString MakeScratchFolder()
 
 const std::vector<FuzzTarget>& FuzzTargets()
 {
-    static const std::vector<FuzzTarget> targets = {{"ini_file", FuzzIniFile},        {"language_table", FuzzLanguageTable},
-                                                    {"parameters", FuzzParameters},   {"menu", FuzzMenu},
-                                                    {"picture", FuzzPicture},         {"old_skin", FuzzOldSkin},
-                                                    {"window_names", FuzzWindowNames}};
+    static const std::vector<FuzzTarget> targets = {{"ini_file", FuzzIniFile},      {"language_table", FuzzLanguageTable},
+                                                    {"parameters", FuzzParameters}, {"menu", FuzzMenu},
+                                                    {"picture", FuzzPicture},       {"tiff", FuzzTiff},
+                                                    {"old_skin", FuzzOldSkin},      {"window_names", FuzzWindowNames}};
     return targets;
 }
 

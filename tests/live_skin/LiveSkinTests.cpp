@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A skin that is edited while the interface shows it, as the example host follows it.
 #include "support/HostedFrame.h"
+#include "support/MemoryPeak.h"
+#include "support/Spoiling.h"
 
 #include "skin/LiveSkin.h"
 
+#include <KernelCommonUse/StringConvert.h>
 #include <NxConfig/ParamConfig.h>
 #include <NxConfig/SystemUtility.h>
 
@@ -123,6 +126,25 @@ TEST_F(LiveSkinTest, a_change_shows_within_a_second_on_the_clock)
     Rebuild();
     EXPECT_GT(Distance(Title(), before), 50);
     EXPECT_LT(std::chrono::duration<double>(Clock::now() - saved).count(), 1.0);
+}
+
+TEST_F(LiveSkinTest, damaged_tiff_files_and_pictures_that_unpack_to_too_much_are_broken_ones)
+{
+    const std::vector<std::uint8_t> sound = ReadBytes(Utf8ToCString(NX_PICTURE_CORPUS "/lzw.tiff"));
+    for (unsigned int seed = 0; seed < 40; ++seed)
+    {
+        CString file;
+        file.Format(L"new_skin\\dropped%u.tiff", seed);
+        ASSERT_TRUE(WriteBytes(Edited() + file, Spoilt(sound, seed)));
+    }
+    ASSERT_TRUE(WriteBytes(Edited() + Logo, ReadBytes(Utf8ToCString(NX_PICTURE_CORPUS "/larger_than_allowed.png"))));
+    const MemoryPeak memory;
+    const LiveSkin::Change change = Look();
+    EXPECT_LT(memory.Growth(), 64) << "537 MB";
+    EXPECT_GT(change.broken.size(), 10u);
+    EXPECT_EQ(change.broken.size() + change.taken.size(), 41u);
+    const Lines broken = Names(change.broken);
+    EXPECT_TRUE(std::count(broken.begin(), broken.end(), "new_skin\\logo.png"));
 }
 
 TEST_F(LiveSkinTest, a_broken_picture_leaves_the_old_one_and_the_log_names_it)

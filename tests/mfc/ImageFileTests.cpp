@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "../support/GTest.h"
+#include "../support/Spoiling.h"
 #include "TemporaryImage.h"
 #include "Utf8.h"
 
 #include <atlimage.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
+#include <vector>
 
 namespace
 {
@@ -48,6 +51,26 @@ int WorstDifference(CImage& left, CImage& right, int channels)
         }
     }
     return worst;
+}
+
+std::vector<std::uint8_t> FileBytes(const CString& path)
+{
+    const HANDLE handle = CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    std::vector<std::uint8_t> bytes(GetFileSize(handle, nullptr));
+    DWORD read = 0;
+    ReadFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr);
+    CloseHandle(handle);
+    EXPECT_EQ(read, bytes.size());
+    return bytes;
+}
+
+void WriteFileBytes(const CString& path, const std::vector<std::uint8_t>& bytes)
+{
+    const HANDLE handle = CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    CloseHandle(handle);
+    ASSERT_EQ(written, bytes.size());
 }
 
 const int Width = 16;
@@ -159,6 +182,41 @@ TEST(ImageFile, LeavesThePictureWhenAFileCannotBeRead)
     CloseHandle(handle);
     EXPECT_EQ(image.Load(file.path), E_FAIL);
     EXPECT_EQ(image.GetWidth(), 2);
+}
+
+TEST(ImageFile, DamagedTiffFilesAreRefusedOrRead)
+{
+    CImage made;
+    ASSERT_TRUE(made.Create(Width, Height, 24));
+    Paint(made);
+    const TemporaryImage file(L"tiff");
+    ASSERT_EQ(made.Save(file.path), S_OK);
+    const std::vector<std::uint8_t> sound = FileBytes(file.path);
+    int refused = 0;
+    for (unsigned int seed = 0; seed < 400; ++seed)
+    {
+        SCOPED_TRACE(seed);
+        WriteFileBytes(file.path, Spoilt(sound, seed));
+        CImage loaded;
+        refused += loaded.Load(file.path) != S_OK;
+    }
+    EXPECT_GT(refused, 50);
+    EXPECT_LT(refused, 400);
+}
+
+TEST(ImageFile, MoreThanABitmapMayHaveIsRefused)
+{
+    // 16384 x 8192 pixels of a bit each, in 16 KB.
+    const TemporaryImage file(L"png");
+    WriteFileBytes(file.path, FileBytes(CString(NX_PICTURE_CORPUS) + L"\\larger_than_allowed.png"));
+    CImage image;
+    EXPECT_EQ(image.Load(file.path), E_FAIL);
+    EXPECT_FALSE(image.Create(16384, 8192, 32));
+    EXPECT_FALSE(image.Create(40000, 40000, 32));
+    EXPECT_FALSE(image.Create(715827882, 1, 24));
+    EXPECT_FALSE(image.Create(32768, INT_MIN, 32));
+    EXPECT_TRUE(image.Create(1, 32768, 32));
+    EXPECT_FALSE(image.Create(1, 32769, 32));
 }
 
 TEST(ImageFile, IsLetGoWhenItCannotBeRead)

@@ -2,6 +2,11 @@
 // The picture of the panel's frame, and what happens when its template is missing.
 #include "PanelTest.h"
 
+#include "support/MemoryPeak.h"
+#include "widgets/Pictures.h"
+
+#include <KernelCommonUse/StringConvert.h>
+
 #include <CEGUI/WindowFactoryManager.h>
 
 using PanelPictureTest = PanelTest;
@@ -153,6 +158,49 @@ TEST_F(PanelPictureTest, without_the_template_the_old_pictures_stay)
     }
     EXPECT_TRUE(Refresh(NumberedRows(40)));
     EXPECT_EQ(Place(ListPicture), "538,85 - 798,1005");
+}
+
+TEST_F(PanelPictureTest, template_is_decoded_again_only_when_its_file_has_changed)
+{
+    Open(NumberedRows(3));
+    {
+        const FileHeld held(TemplateFile());
+        EXPECT_TRUE(Refresh(NumberedRows(40)));
+        EXPECT_EQ(Place(ListPicture), "538,85 - 798,1005");
+        EXPECT_EQ(TakeLog(), Lines{});
+    }
+    const FileReplaced other(TemplateFile(), Bmp24(Solid(260, 74, 0xFF00FF00)));
+    EXPECT_TRUE(Refresh(NumberedRows(0)));
+    EXPECT_TRUE(LooksLike(Seen(668, 95), {0, 255, 0}));
+}
+
+TEST_F(PanelPictureTest, a_template_that_unpacks_to_more_than_a_picture_may_have_is_refused)
+{
+    Open(NumberedRows(3));
+    const Pixel row = Seen(668, 95);
+    const FileReplaced other(TemplateFile(), ReadBytes(Utf8ToCString(NX_PICTURE_CORPUS "/larger_than_allowed.png")));
+    const MemoryPeak memory;
+    EXPECT_TRUE(Refresh(NumberedRows(40)));
+    EXPECT_LT(memory.Growth(), 64) << "537 MB";
+    EXPECT_EQ(Seen(668, 95), row);
+    const Lines log = TakeLog();
+    ASSERT_EQ(log.size(), 1u);
+    EXPECT_EQ(log[0], "NxOsgCeGui: property panel's template not loaded: " + Utf8(SkinDir()) + "new_skin/DlgPropertyTemple.png");
+}
+
+TEST_F(PanelPictureTest, a_view_higher_than_any_bitmap_leaves_the_old_pictures)
+{
+    Open(NumberedRows(3));
+    const std::vector<std::uint8_t> former = ReadBytes(PanelFile());
+    // 4 x 260 x 5000000 bytes do not fit in 32 bits.
+    Frame().SetWindowSize(ViewWidth, 5000000);
+    Frame().RefreshPropertyDlg();
+    Frame().SetWindowSize(ViewWidth, ViewHeight);
+    EXPECT_EQ(ReadBytes(PanelFile()), former);
+    const Lines log = TakeLog();
+    ASSERT_FALSE(log.empty());
+    EXPECT_EQ(log[0], "NxOsgCeGui: property panel's picture not drawn: 260 x 4999948 pixels");
+    Rebuild();
 }
 
 TEST_F(PanelPictureTest, without_a_font_family_nothing_is_made)

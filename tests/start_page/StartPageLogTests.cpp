@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What goes wrong with the start page is one line in the log that names the file to mend.
 #include "support/FrameTest.h"
+#include "support/MemoryPeak.h"
 
+#include <KernelCommonUse/StringConvert.h>
 #include <NxConfig/SystemUtility.h>
 
 namespace
@@ -46,6 +48,15 @@ TEST_F(StartPageLogTest, a_picture_that_is_none)
 {
     const FileReplaced picture(Resources() + L"pics\\kwexeGuiImage.bmp", {1, 2, 3});
     ExpectOneLine("kwexeGuiImage.bmp");
+}
+
+TEST_F(StartPageLogTest, a_picture_that_unpacks_to_more_than_a_picture_may_have)
+{
+    const FileReplaced picture(Resources() + L"pics\\kwexeGuiImage.bmp",
+                               ReadBytes(Utf8ToCString(NX_PICTURE_CORPUS "/larger_than_allowed.png")));
+    const MemoryPeak memory;
+    ExpectOneLine("kwexeGuiImage.bmp");
+    EXPECT_LT(memory.Growth(), 64) << "537 MB";
 }
 
 TEST_F(StartPageLogTest, a_write_protected_page)

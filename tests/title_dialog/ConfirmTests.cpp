@@ -7,6 +7,9 @@
 
 #include <panels/TitleEditDialog.h>
 
+#include <CEGUI/Renderer.h>
+#include <CEGUI/System.h>
+
 class ConfirmTest : public TitleDialogTest
 {
 };
@@ -32,6 +35,23 @@ TEST_F(ConfirmTest, the_whole_way_from_a_double_click_to_the_new_picture)
     EXPECT_FALSE(after == before);
     EXPECT_GT(CountOfColor(after, {255, 255, 0}), 100);
     EXPECT_TRUE(after == PixelsOf(L"东湖 East Lake", RGB(255, 255, 0), face, 28.0f));
+}
+
+TEST_F(ConfirmTest, the_widest_title_that_can_be_typed_leaves_the_frame_whole)
+{
+    OpenByDoubleClick();
+    SetText(TextEdit, CString(L'\x2E3B', 100));
+    SetText(HeightEdit, L"100");
+    Confirm();
+    EXPECT_FALSE(IsShown());
+    const int widest = static_cast<int>(CEGUI::System::getSingleton().getRenderer()->getMaxTextureSize());
+    const RECT title = GuiHost::RectOf("TavTilteText");
+    EXPECT_EQ(title.right - title.left, widest);
+    Host().Resize(ViewWidth + 20, ViewHeight);
+    EXPECT_TRUE(Visible("TavTilteCloseButtom"));
+    EXPECT_TRUE(Visible("TavBottomBorderBackground"));
+    EXPECT_EQ(Title(), Utf8(CString(L'\x2E3B', 100)));
+    EXPECT_EQ(TakeLog(), Lines{});
 }
 
 TEST_F(ConfirmTest, confirming_at_once_changes_nothing)

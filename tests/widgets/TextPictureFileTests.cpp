@@ -67,7 +67,8 @@ TEST_F(TextPictureFile, refused_calls_write_nothing_and_leave_the_former_file)
         EXPECT_FALSE(DrawTextToImageFile(path, row.width, 30, row.font, 20, 0, L"x"));
         EXPECT_EQ(ReadBytes(path), former);
         EXPECT_FALSE(HasUnfinishedFile(SkinDir()));
-        EXPECT_EQ(TakeLog(), Lines(2, "NxOsgCeGui: text picture not written: " + Utf8(path)));
+        const std::string size = row.width > 0 ? "" : ", no bitmap of 0 x 30 pixels";
+        EXPECT_EQ(TakeLog(), Lines(2, "NxOsgCeGui: text picture not written" + size + ": " + Utf8(path)));
     }
     EXPECT_FALSE(DrawTextToImageFile(L"", 40, 30, Latin, 20, 0, L"x"));
     EXPECT_EQ(TakeLog().size(), 1u);
@@ -148,4 +149,42 @@ TEST_F(TextPictureFile, a_write_protected_picture_stays_and_the_failure_is_told)
     EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: text picture not written: " + Utf8(path)});
     SetFileAttributesW(path, FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(Utf8(CreateTextImageFile(50, 20, L"protected", L"x", 16, Latin, 0)), "protected.bmp");
+}
+
+TEST_F(TextPictureFile, sizes_that_no_bitmap_has_are_refused_and_leave_the_former_file)
+{
+    const std::vector<std::uint8_t> former = {'f', 'o', 'r', 'm', 'e', 'r'};
+    // A bitmap's bytes in 32 bits: 4 x 40000 x 40000 are 2.1 GB and 4 x 65536 x 16385 are 256 KB.
+    const std::pair<UINT, UINT> sizes[] = {{40000, 40000},
+                                           {65536, 16385},
+                                           {16385, 65536},
+                                           {32768, 2049},
+                                           {0x80000001u, 3},
+                                           {3, 0xFFFFFFFFu},
+                                           {0xFFFFFFFFu, 0xFFFFFFFFu}};
+    for (const auto& [width, height] : sizes)
+    {
+        for (const wchar_t* name : {L"size.bmp", L"size.png", L"size.gif"})
+        {
+            ASSERT_TRUE(WriteBytes(Path(name), former));
+            EXPECT_FALSE(DrawTextToImageFile(Path(name), width, height, Latin, 20, 0, L"x")) << width << " x " << height;
+            EXPECT_EQ(ReadBytes(Path(name)), former);
+            EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: text picture not written, no bitmap of " + std::to_string(width) + " x " +
+                                       std::to_string(height) + " pixels: " + Utf8(Path(name))});
+        }
+    }
+}
+
+TEST_F(TextPictureFile, heights_that_no_font_has_leave_the_text_out)
+{
+    for (const UINT height : {0u, 32769u, 1000000000u, 0xFFFFFFFFu})
+    {
+        const CString path = Path(L"height.bmp");
+        EXPECT_TRUE(DrawTextToImageFile(path, 40, 30, Latin, height, 0xFFFFFF, L"x"));
+        const PictureFile picture = ReadPictureFile(path);
+        ASSERT_EQ(picture.width, 40);
+        EXPECT_EQ(picture.Argb(20, 15), 0x004D4D4Au);
+        EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: no font of this height, text left out of " + Utf8(path) + ": " +
+                                   std::to_string(height) + " pixels"});
+    }
 }

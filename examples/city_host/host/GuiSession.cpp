@@ -7,6 +7,7 @@
 #include "Frame.h"
 #include "Language.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -17,6 +18,7 @@ namespace
 
 // The interface's title bar, in view pixels.
 constexpr LONG TitleBarHeight = 50;
+constexpr float HighestTitle = 1000; // pixels
 constexpr LONG TitleTextLeft = 50;
 constexpr LONG TitleTextRoom = 14; ///< more than the text measures, for the difference between measurers
 constexpr LONG ButtonsFromRight = 140;
@@ -130,8 +132,10 @@ bool GuiSession::IsTitleHandle(CPoint point) const
     UINT width = 0;
     UINT height = 0;
     Frame().GetWindowSize(width, height);
-    const CSize text = MeasureText(Frame().GetSceneTitle(), Frame().GetSceneTitleFontStyle(),
-                                   static_cast<int>(Frame().GetSceneTitleFontHeight()));
+    // A published title may have any height, also one that is no number.
+    const float titleHeight = Frame().GetSceneTitleFontHeight();
+    const int pixels = titleHeight > 0 ? static_cast<int>(std::min(titleHeight, HighestTitle)) : 0;
+    const CSize text = MeasureText(Frame().GetSceneTitle(), Frame().GetSceneTitleFontStyle(), pixels);
     const bool onText = point.x >= TitleTextLeft && point.x < TitleTextLeft + text.cx + TitleTextRoom;
     return !onText && point.x < static_cast<LONG>(width) - ButtonsFromRight;
 }

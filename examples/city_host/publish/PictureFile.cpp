@@ -5,6 +5,8 @@
 
 #include <KernelCommonUse/StringConvert.h>
 
+#include <imaging/ImageDecoder.h>
+
 #include <stdexcept>
 
 namespace host
@@ -16,7 +18,7 @@ namespace
 bool ReadTopDown(const CString& path, CImage& picture)
 {
     CImage file;
-    if (FAILED(file.Load(path)) || !picture.Create(file.GetWidth(), -file.GetHeight(), 32))
+    if (!IsSafeImageFile(path) || FAILED(file.Load(path)) || !picture.Create(file.GetWidth(), -file.GetHeight(), 32))
     {
         return false;
     }

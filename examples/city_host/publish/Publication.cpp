@@ -14,6 +14,8 @@
 #include <KernelCommonUse/WholeFile.h>
 #include <NxConfig/SystemUtility.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -97,9 +99,12 @@ CString LanguageOf(const CString& language, const CString& settings)
     return CString();
 }
 
+/// 0 for what is no number, and at most what a pose or a colour has, so that it can be converted.
 double Number(CIniFile& ini, const wchar_t* key)
 {
-    return std::strtod(CString2string(ini.GetKeyValue(Section, key)).c_str(), nullptr);
+    constexpr double limit = 1e9;
+    const double number = std::strtod(CString2string(ini.GetKeyValue(Section, key)).c_str(), nullptr);
+    return number == number ? std::min(std::max(number, -limit), limit) : 0;
 }
 
 } // namespace
@@ -173,7 +178,7 @@ Publication ReadPublication(const CString& folder)
     publication.language = LanguageOf(ini.GetKeyValue(Section, L"Language"), path);
     publication.title = ini.GetKeyValue(Section, L"Title");
     publication.titleFont = ini.GetKeyValue(Section, L"TitleFont");
-    publication.titleColor = static_cast<COLORREF>(Number(ini, L"TitleColor"));
+    publication.titleColor = static_cast<COLORREF>(static_cast<std::int64_t>(Number(ini, L"TitleColor")));
     publication.titleHeight = static_cast<float>(Number(ini, L"TitleHeight"));
     publication.pose.target.set(Number(ini, L"TargetX"), Number(ini, L"TargetY"), Number(ini, L"TargetZ"));
     publication.pose.heading = Number(ini, L"Heading");

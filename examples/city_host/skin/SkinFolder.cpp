@@ -4,6 +4,8 @@
 #include <KernelCommonUse/FileOp.h>
 #include <NxConfig/SystemUtility.h>
 
+#include <imaging/ImageDecoder.h>
+
 #include <atlimage.h>
 
 #include <algorithm>
@@ -118,7 +120,7 @@ bool IsPicture(const CString& file)
 bool CanBeShown(const CString& path)
 {
     CImage picture;
-    return SUCCEEDED(picture.Load(path)) && picture.GetWidth() > 0 && picture.GetHeight() > 0;
+    return IsSafeImageFile(path) && SUCCEEDED(picture.Load(path)) && picture.GetWidth() > 0 && picture.GetHeight() > 0;
 }
 
 std::vector<CString> SkinsBeside(const CString& folder)
