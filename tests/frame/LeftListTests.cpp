@@ -165,3 +165,22 @@ TEST_F(LeftListTest, changed_records_are_seen_after_the_next_build)
     EXPECT_EQ(Place("r1_P"), "no window");
     EXPECT_EQ(Place("other_P"), "11,63 - 137,159");
 }
+
+TEST_F(LeftListTest, that_ends_exactly_at_the_bars_bottom_has_no_scroll_bar)
+{
+    for (const int count : {2, 3, 4, 5, 6, 7, 8})
+    {
+        SCOPED_TRACE(count);
+        Frame().SetCtrlBtnInfo(Records(count));
+        // 52 of title bar and border, 13 above each entry and below the last.
+        const int exact = 52 + 13 + count * (96 + 13);
+        Host().Resize(ViewWidth, exact);
+        EXPECT_EQ(Place("scrollbar"), "no window");
+        SlideIn(50, 100);
+        ASSERT_TRUE(Visible(List));
+        Host().Wheel(50, 100, -1);
+        EXPECT_EQ(Place("r0_P"), "11,63 - 137,159");
+        Host().Resize(ViewWidth, exact - 1);
+        EXPECT_NE(Place("scrollbar"), "no window");
+    }
+}
