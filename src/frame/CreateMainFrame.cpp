@@ -120,7 +120,7 @@ void CeGuiMainFrame::EnableSlideOut(bool enable)
     {
         if (CeGuiToolBar* bar = FindBar(name))
         {
-            bar->slideOnHide = enable;
+            bar->SetSlideOnHide(enable);
         }
     }
 }

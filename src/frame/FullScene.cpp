@@ -41,7 +41,7 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
     if (CeGuiToolBar* title = FindBar(FrameNames::TitleBar))
     {
         ShowFrame(title, !full);
-        title->autoHide = full;
+        title->SetAutoHide(full);
         if (full)
         {
             // It comes back only once the mouse has been away from the top of the view.

@@ -48,10 +48,7 @@ void UpdateThumb(CeGuiToolBar& list)
     const float ratio = list.contentExtent;
     if (!(ratio > 1))
     {
-        if (list.thumb && list.thumb->isVisible())
-        {
-            list.thumb->hide();
-        }
+        list.HideThumb();
         return;
     }
     if (!list.thumb)

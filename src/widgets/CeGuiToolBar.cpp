@@ -79,6 +79,7 @@ void CeGuiToolBar::MoveBar(const RECT& place, UINT parentWidth, UINT parentHeigh
 {
     rect = place;
     triggerRect = place;
+    EndSlide();
     if (window)
     {
         PlaceWindow(rect, parentWidth, parentHeight);
@@ -303,16 +304,22 @@ ToolBarItem* CeGuiToolBar::ItemAt(int index)
 
 void CeGuiToolBar::ShowBar()
 {
+    EndSlide();
     if (window && !window->isVisible())
     {
-        // It may have been hidden by sliding out.
-        PlaceWindow(rect, screenWidth, screenHeight);
         window->show();
     }
 }
 
 void CeGuiToolBar::HideBar()
 {
+    EndSlide();
+    HideWindow();
+}
+
+void CeGuiToolBar::HideWindow()
+{
+    EndDrag();
     if (window && window->isVisible())
     {
         window->hide();
@@ -346,7 +353,8 @@ void CeGuiToolBar::DestroyToolBar()
     }
     items.clear();
     itemEvents.clear();
-    dragging = false;
+    EndDrag();
+    EndSlide();
 }
 
 void CeGuiToolBar::ForgetWindow(const CEGUI::Window* gone)
@@ -356,11 +364,12 @@ void CeGuiToolBar::ForgetWindow(const CEGUI::Window* gone)
         if (bar->window == gone)
         {
             bar->window = nullptr;
+            bar->EndSlide();
         }
         if (bar->thumb == gone)
         {
             bar->thumb = nullptr;
-            bar->dragging = false;
+            bar->EndDrag();
         }
         for (ToolBarItem& item : bar->items)
         {
@@ -378,8 +387,8 @@ void CeGuiToolBar::ForgetAllWindows()
     {
         bar->window = nullptr;
         bar->thumb = nullptr;
-        bar->dragging = false;
-        bar->animating = false;
+        bar->EndDrag();
+        bar->EndSlide();
         bar->items.clear();
     }
 }

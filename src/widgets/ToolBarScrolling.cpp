@@ -155,6 +155,25 @@ bool CeGuiToolBar::OnThumbMouseDown(const CEGUI::EventArgs& args)
     return true;
 }
 
+void CeGuiToolBar::EndDrag()
+{
+    dragging = false;
+    // A pressed button gets the mouse wherever that is, hidden as well, until it is released.
+    if (thumb && thumb->isCapturedByThis())
+    {
+        thumb->releaseInput();
+    }
+}
+
+void CeGuiToolBar::HideThumb()
+{
+    EndDrag();
+    if (thumb && thumb->isVisible())
+    {
+        thumb->hide();
+    }
+}
+
 bool CeGuiToolBar::OnThumbMouseUp(const CEGUI::EventArgs&)
 {
     dragging = false;
