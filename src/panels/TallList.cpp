@@ -77,7 +77,6 @@ private:
             windows_[slot] = WindowNames::Create("TavLook/StaticImage", GuiName(file));
             // The mouse is the item's business.
             windows_[slot]->setMousePassThroughEnabled(true);
-            windows_[slot]->setMaxSize(CEGUI::USize(Relative(0), Relative(0)));
             WindowNames::AddChild(*item_, *windows_[slot]);
         }
         const float whole = static_cast<float>(height_);
@@ -130,8 +129,6 @@ void ShowTallList(CeGuiToolBar& list, const CeGuiMainFrame::PropertyRows& rows, 
 {
     CEGUI::Window& item = *list.items[0].window;
     item.setProperty("Image", "");
-    // CEGUI keeps windows within the display's size unless they say otherwise; 0 is no limit.
-    item.setMaxSize(CEGUI::USize(Relative(0), Relative(0)));
     // A notch moves the thumb, and so most of such a list past its place: never more than leaves one row in sight.
     const float place = static_cast<float>(list.rect.bottom - list.rect.top);
     list.longestWheelStep = (place - RowHeight) / place;

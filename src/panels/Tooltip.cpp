@@ -55,8 +55,6 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
         const CSize size = TooltipSize(text);
         const float width = static_cast<float>(windowWidth_);
         const float height = static_cast<float>(windowHeight_);
-        // CEGUI keeps windows within the display's size unless they say otherwise; 0 is no limit.
-        window.setMaxSize(CEGUI::USize(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
         window.setSize(CEGUI::USize(CEGUI::UDim(size.cx / width, 0), CEGUI::UDim(size.cy / height, 0)));
         window.setPosition(CEGUI::UVector2(CEGUI::UDim(x / width, 0), CEGUI::UDim(y / height, 0)));
         FileImagesets::Apply(window, "Image", image);

@@ -229,7 +229,9 @@ void CeGuiToolBar::PlaceStaticItem(ToolBarItem& item, const RECT& place) const
     item.xScale = place.left / width;
     item.yScale = place.top / height;
     item.window->setPosition(CEGUI::UVector2(Relative(item.xScale), Relative(item.yScale)));
-    item.window->setMaxSize(CEGUI::USize(Relative(item.widthScale), Relative(2 * item.heightScale)));
+    // The limit is a share of the display, not of the bar: in a bar larger than that it would squeeze the item. 0 is no limit.
+    item.window->setMaxSize(CEGUI::USize(Relative(width > static_cast<float>(screenWidth) ? 0 : item.widthScale),
+                                         Relative(height > 2.0f * static_cast<float>(screenHeight) ? 0 : 2 * item.heightScale)));
     item.window->setSize(CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
 }
 

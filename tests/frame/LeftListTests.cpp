@@ -184,3 +184,16 @@ TEST_F(LeftListTest, that_ends_exactly_at_the_bars_bottom_has_no_scroll_bar)
         EXPECT_NE(Place("scrollbar"), "no window");
     }
 }
+
+TEST_F(LeftListTest, in_a_view_narrower_than_itself_is_cut_and_not_squeezed)
+{
+    Frame().SetCtrlBtnInfo(Records(7));
+    for (const int width : {151, 110, 60})
+    {
+        SCOPED_TRACE(width);
+        Host().Resize(width, ViewHeight);
+        EXPECT_EQ(Place(List), "1,50 - 153,598");
+        EXPECT_EQ(Place("r0_P"), "11,63 - 137,159");
+        EXPECT_EQ(Text({GuiHost::RectOf("scrollbar").left, 0, GuiHost::RectOf("scrollbar").right, 0}), "144,0 - 150,0");
+    }
+}
