@@ -277,7 +277,8 @@ private:
     bool showLeftToolBar_ = true;
     bool fullScene_ = false;
     bool slideOut_ = false;
-    PropertyRows propertyData_;
+    /// Never changed, only replaced: a panel goes on showing the rows of its last refresh.
+    std::shared_ptr<const PropertyRows> propertyData_ = std::make_shared<const PropertyRows>();
     PropertyRows targetData_;
     STAPAGE startPage_;
     CPoint addButtonMousePoint_;
