@@ -97,7 +97,8 @@ void CeGuiMainFrame::RestoreFrameState()
     }
     if (fullScene_)
     {
-        OnToolBarFullScene(true);
+        // The panel comes after this, once.
+        LayOutForScene();
     }
 }
 

@@ -36,6 +36,16 @@ void ShowFrame(CeGuiToolBar* bar, bool show)
 void CeGuiMainFrame::OnToolBarFullScene(bool full)
 {
     fullScene_ = full;
+    LayOutForScene();
+    if (propertyDlgOpen_)
+    {
+        RefreshPropertyDlg();
+    }
+}
+
+void CeGuiMainFrame::LayOutForScene()
+{
+    const bool full = fullScene_;
     const LONG height = static_cast<LONG>(windowHeight_);
     const LONG border = borderWidth_;
     if (CeGuiToolBar* title = FindBar(FrameNames::TitleBar))
@@ -71,10 +81,6 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
         const LONG bottom = full ? height : height - border;
         tools->MoveBar({left, bottom - barHeight, left + width, bottom}, windowWidth_, windowHeight_);
         tools->triggerRect = {0, bottom - barHeight, tools->rect.right, height};
-    }
-    if (propertyDlgOpen_)
-    {
-        RefreshPropertyDlg();
     }
 }
 

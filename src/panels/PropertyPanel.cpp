@@ -177,8 +177,7 @@ bool CeGuiMainFrame::RefreshPropertyList(CeGuiToolBar* list)
     const RECT picturePlace = {0, 0, PanelWidth, height};
     const bool tall = IsTallList(height);
     // Drawn before anything changes: what cannot be drawn leaves the list as it is.
-    const CString file =
-        tall ? WriteTallListTop(*propertyData_, height, listBodyHeight) : WriteList(*propertyData_, height);
+    const CString file = tall ? WriteTallListTop(*propertyData_, height, listBodyHeight) : WriteList(*propertyData_, height);
     if (!list)
     {
         if (file.IsEmpty())

@@ -96,8 +96,7 @@ public:
         const int top = number * stretch_;
         const float whole = static_cast<float>(height_);
         slot.window->setPosition(CEGUI::UVector2(Relative(0), Relative(static_cast<float>(top) / whole)));
-        slot.window->setSize(
-            CEGUI::USize(Relative(1), Relative(static_cast<float>(std::min(stretch_, height_ - top)) / whole)));
+        slot.window->setSize(CEGUI::USize(Relative(1), Relative(static_cast<float>(std::min(stretch_, height_ - top)) / whole)));
         FileImagesets::Apply(*slot.window, "Image", image);
         slot.window->invalidate();
         slot.shown = number;

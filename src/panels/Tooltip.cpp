@@ -82,12 +82,13 @@ void CeGuiMainFrame::DestroyTooltipWindow()
 
 bool OnTooltipShow(const CEGUI::EventArgs& args)
 {
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    frame.SetDisplySystemMouse(true);
     const CEGUI::Window* item = static_cast<const CEGUI::WindowEventArgs&>(args).window;
     if (!item)
     {
         return true;
     }
-    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
     const CString text = _a2w(NameBytes(item->getTooltipText()));
     const CSize size = TooltipSize(text);
     const CEGUI::Rectf area = item->getUnclippedOuterRect().get();

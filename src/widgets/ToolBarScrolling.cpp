@@ -40,9 +40,8 @@ bool CeGuiToolBar::UpdateContentExtent()
         return true;
     }
     // In pixels, which are whole for all that the owners lay out: a column that ends exactly at the bar's bottom is 1 exactly.
-    const double content = items.empty()
-                               ? 2.0 * marginY
-                               : (double(items.back().heightScale) + items.back().yScale) * Height() + marginY;
+    const double content =
+        items.empty() ? 2.0 * marginY : (double(items.back().heightScale) + items.back().yScale) * Height() + marginY;
     const double whole = std::round(content);
     contentExtent = static_cast<float>((std::fabs(content - whole) < RoundedPixels ? whole : content) / Height());
     return true;

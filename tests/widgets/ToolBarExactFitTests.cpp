@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Columns that end exactly at their bar's bottom: in floats the fractions of their parts add up to a rounding more or less than 1.
+// Columns that end exactly at their bar's bottom: in floats the fractions of their parts add up to a rounding more or less
+// than 1.
 #include "Sheet.h"
 
 #include <CEGUI/Window.h>
