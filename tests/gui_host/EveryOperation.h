@@ -3,6 +3,6 @@
 
 class CeGuiMainFrame;
 
-/// Calls every exported operation of the frame, beginning without records, with the panel closed, the list switched on and no
-/// full scene. The last one is `ClearAllWindows`.
+/// Calls every exported operation of the frame, which has to begin with the panel closed, the list switched on and no full scene.
+/// Its records are gone afterwards. The last operation is `ClearAllWindows`.
 void CallEveryOperation(CeGuiMainFrame& frame);
