@@ -146,9 +146,11 @@ public:
     /// @return false when there is none
     bool AddBtnIndex();
     bool SubBtnIndex();
-    /// Destroys the window of that very name, if there is one, and erases the first record of that name.
+    /// Destroys the window of that very name, if there is one, and erases the first record of that name. An exception from CEGUI
+    /// ends it before the record (logged).
     void DeleteButton(const CString& name);
-    /// Destroys the windows "TavGuiButton_0", ... and their pictures, one for each record. The records stay.
+    /// Destroys the windows "TavGuiButton_0", ... and their pictures, one for each record, and goes on past those that fail
+    /// (logged). The records stay.
     void ClearAllCtrlBtn();
 
     STAPAGE& GetStaPageParameter();
@@ -261,6 +263,8 @@ private:
     void ReleaseBars();
     void ReleaseFailedFrame();
     void RestoreFrameState();
+    /// Gives the bars but the panel's the places and ways to hide of the present mode.
+    void LayOutForScene();
     int ControlButtonCount() const;
     void StepBtnIndex(int step);
     bool ChangeLeftBtnState(int oldIndex, int newIndex, bool scrollTo);
@@ -306,7 +310,8 @@ private:
     bool showLeftToolBar_ = true;
     bool fullScene_ = false;
     bool slideOut_ = false;
-    PropertyRows propertyData_;
+    /// Never changed, only replaced: a panel goes on showing the rows of its last refresh.
+    std::shared_ptr<const PropertyRows> propertyData_ = std::make_shared<const PropertyRows>();
     PropertyRows targetData_;
     STAPAGE startPage_;
     CPoint addButtonMousePoint_;

@@ -16,6 +16,10 @@
 #include <CEGUI/Window.h>
 #include <CEGUI/WindowManager.h>
 
+#include <algorithm>
+#include <exception>
+#include <string>
+
 namespace
 {
 const wchar_t* const PictureSuffix = L"_P";
@@ -24,22 +28,36 @@ constexpr int VideoKind = 1;
 constexpr int SuffixLength = 2;
 
 /// Destroys a window by name, if there is one.
+/// @throws CEGUI::Exception what a slot of the host's throws
 void DestroyWindowNamed(const CString& name)
 {
     if (!CEGUI::WindowManager::getSingletonPtr())
     {
         return;
     }
+    if (CEGUI::Window* window = WindowNames::Find(GuiName(name)))
+    {
+        WindowNames::Destroy(*window);
+    }
+}
+
+/// Does what an exception ends, with a line in the log.
+/// @param what for the log, if it fails
+/// @param name by value, since it may be the name of a record that is erased
+template <class Work>
+void Guarded(const char* what, CString name, const Work& work)
+{
     try
     {
-        if (CEGUI::Window* window = WindowNames::Find(GuiName(name)))
-        {
-            WindowNames::Destroy(*window);
-        }
+        work();
     }
     catch (const CEGUI::Exception& dropped)
     {
-        LogFailure("control button's window not destroyed (" + NameBytes(dropped.getMessage()) + ")", CString2string(name));
+        LogFailure(std::string(what) + " (" + NameBytes(dropped.getMessage()) + ")", CString2string(name));
+    }
+    catch (const std::exception& dropped)
+    {
+        LogFailure(std::string(what) + " (" + dropped.what() + ")", CString2string(name));
     }
 }
 } // namespace
@@ -85,16 +103,18 @@ bool OnControlButtonClicked(const CEGUI::EventArgs& args)
 void CeGuiMainFrame::DeleteButton(const CString& name)
 {
     const CallbackScope scope;
-    DestroyWindowNamed(name);
-    for (auto record = controlButtons_.begin(); record != controlButtons_.end(); ++record)
-    {
-        if (record->name == name)
-        {
-            controlButtons_.erase(record);
-            break;
-        }
-    }
-    RefreshButton(GUI_BTN_ALL);
+    Guarded("control button not deleted", name,
+            [&]
+            {
+                DestroyWindowNamed(name);
+                const auto record = std::find_if(controlButtons_.begin(), controlButtons_.end(),
+                                                 [&](const BTN_UNIT& candidate) { return candidate.name == name; });
+                if (record != controlButtons_.end())
+                {
+                    controlButtons_.erase(record);
+                }
+                RefreshButton(GUI_BTN_ALL);
+            });
 }
 
 void CeGuiMainFrame::ClearAllCtrlBtn()
@@ -108,12 +128,12 @@ void CeGuiMainFrame::ClearAllCtrlBtn()
     {
         CString name;
         name.Format(L"TavGuiButton_%d", i);
-        DestroyWindowNamed(name);
+        Guarded("control button's window not destroyed", name, [&] { DestroyWindowNamed(name); });
         for (const wchar_t* pattern : {L"TavGuiButtonImgNor%d.bmp", L"TavGuiButtonImgHov%d.bmp", L"TavGuiButtonImgPsh%d.bmp"})
         {
             CString file;
             file.Format(pattern, i);
-            FileImagesets::Destroy(file);
+            Guarded("control button's picture not destroyed", file, [&] { FileImagesets::Destroy(file); });
         }
     }
 }

@@ -113,7 +113,8 @@ void CeGuiMainFrame::RestoreFrameState()
     }
     if (fullScene_)
     {
-        OnToolBarFullScene(true);
+        // The panel comes after this, once.
+        LayOutForScene();
     }
 }
 
@@ -136,7 +137,7 @@ void CeGuiMainFrame::EnableSlideOut(bool enable)
     {
         if (CeGuiToolBar* bar = FindBar(name))
         {
-            bar->slideOnHide = enable;
+            bar->SetSlideOnHide(enable);
         }
     }
 }

@@ -38,12 +38,22 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
 {
     const CallbackScope scope;
     fullScene_ = full;
+    LayOutForScene();
+    if (propertyDlgOpen_)
+    {
+        RefreshPropertyDlg();
+    }
+}
+
+void CeGuiMainFrame::LayOutForScene()
+{
+    const bool full = fullScene_;
     const LONG height = static_cast<LONG>(windowHeight_);
     const LONG border = borderWidth_;
     if (CeGuiToolBar* title = FindBar(FrameNames::TitleBar))
     {
         ShowFrame(title, !full);
-        title->autoHide = full;
+        title->SetAutoHide(full);
         if (full)
         {
             // It comes back only once the mouse has been away from the top of the view.
@@ -73,10 +83,6 @@ void CeGuiMainFrame::OnToolBarFullScene(bool full)
         const LONG bottom = full ? height : height - border;
         tools->MoveBar({left, bottom - barHeight, left + width, bottom}, windowWidth_, windowHeight_);
         tools->triggerRect = {0, bottom - barHeight, tools->rect.right, height};
-    }
-    if (propertyDlgOpen_)
-    {
-        RefreshPropertyDlg();
     }
 }
 

@@ -85,7 +85,7 @@ void CeGuiMainFrame::OnToolBarRCList(void* button)
         return;
     }
     showLeftToolBar_ = !showLeftToolBar_;
-    list->autoHide = showLeftToolBar_;
+    list->SetAutoHide(showLeftToolBar_);
     if (showLeftToolBar_)
     {
         list->ShowBar();

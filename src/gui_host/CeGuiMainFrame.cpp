@@ -176,22 +176,22 @@ void CeGuiMainFrame::SetStaPageParameter(STAPAGE& parameter)
 
 void CeGuiMainFrame::setPropertyData(PropertyRows& rows)
 {
-    propertyData_ = rows;
+    propertyData_ = std::make_shared<const PropertyRows>(rows);
 }
 
 void CeGuiMainFrame::getPropertyData(PropertyRows& rows)
 {
-    rows = propertyData_;
+    rows = *propertyData_;
 }
 
 int CeGuiMainFrame::PropertyRowCount() const
 {
-    return static_cast<int>(propertyData_.size());
+    return static_cast<int>(propertyData_->size());
 }
 
 CString CeGuiMainFrame::PropertyRowName(int row) const
 {
-    return row >= 0 && row < PropertyRowCount() ? propertyData_[static_cast<std::size_t>(row)].first : CString();
+    return row >= 0 && row < PropertyRowCount() ? (*propertyData_)[static_cast<std::size_t>(row)].first : CString();
 }
 
 void CeGuiMainFrame::setTargetData(PropertyRows& rows)

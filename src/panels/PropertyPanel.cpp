@@ -49,10 +49,7 @@ void UpdateThumb(CeGuiToolBar& list)
     const float ratio = list.contentExtent;
     if (!(ratio > 1))
     {
-        if (list.thumb && list.thumb->isVisible())
-        {
-            list.thumb->hide();
-        }
+        list.HideThumb();
         return;
     }
     if (!list.thumb)
@@ -178,30 +175,34 @@ bool CeGuiMainFrame::RefreshPropertyList(CeGuiToolBar* list)
     const LONG right = static_cast<LONG>(windowWidth_) - (fullScene_ ? 0 : borderWidth_);
     const LONG top = HeaderHeight + (fullScene_ ? 0 : titleBarHeight_);
     const RECT rect = {right - PanelWidth, top, right, top + listBodyHeight};
-    const int height = ListHeight(propertyData_, listBodyHeight);
+    const int height = ListHeight(*propertyData_, listBodyHeight);
     const RECT picturePlace = {0, 0, PanelWidth, height};
     const bool tall = IsTallList(height);
-    const CString file = tall ? CString() : WriteList(propertyData_, height);
+    // Drawn before anything changes: what cannot be drawn leaves the list as it is.
+    const CString file = tall ? WriteTallListTop(*propertyData_, height, listBodyHeight) : WriteList(*propertyData_, height);
     if (!list)
     {
-        if (file.IsEmpty() && !tall)
+        if (file.IsEmpty())
         {
             return true;
         }
-        FileImagesets::Destroy(file);
+        if (!tall)
+        {
+            FileImagesets::Destroy(file);
+        }
         CeGuiToolBar& bar = NewBar(rect, ListFrame, L"", BAR_PANEL);
-        const int picture = bar.AddStaticImage(picturePlace, L"TavPropertyImage", file);
+        const int picture = bar.AddStaticImage(picturePlace, L"TavPropertyImage", tall ? CString() : file);
         bar.SubscribeItemEvent(picture, CEGUI::Window::EventMouseMove, CEGUI::SubscriberSlot(&OnGuiHover));
         bar.SubscribeItemEvent(picture, CEGUI::Window::EventMouseLeavesSurface, CEGUI::SubscriberSlot(&OnTooltipHide));
         EnterBar(bar);
         if (tall)
         {
-            ShowTallList(bar, propertyData_, height);
+            ShowTallList(bar, file, propertyData_, height);
         }
         return true;
     }
     list->ShowBar();
-    if (!file.IsEmpty() || tall)
+    if (!file.IsEmpty())
     {
         if (!EqualRect(&list->rect, &rect))
         {
@@ -211,7 +212,7 @@ bool CeGuiMainFrame::RefreshPropertyList(CeGuiToolBar* list)
         if (tall)
         {
             list->PlaceItem(0, picturePlace);
-            ShowTallList(*list, propertyData_, height);
+            ShowTallList(*list, file, propertyData_, height);
         }
         else
         {

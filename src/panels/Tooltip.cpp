@@ -57,8 +57,6 @@ void CeGuiMainFrame::CreateTooltipWindow(int x, int y, const CString& text)
         const CSize size = TooltipSize(text);
         const float width = static_cast<float>(windowWidth_);
         const float height = static_cast<float>(windowHeight_);
-        // CEGUI keeps windows within the display's size unless they say otherwise; 0 is no limit.
-        window.setMaxSize(CEGUI::USize(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
         window.setSize(CEGUI::USize(CEGUI::UDim(size.cx / width, 0), CEGUI::UDim(size.cy / height, 0)));
         window.setPosition(CEGUI::UVector2(CEGUI::UDim(x / width, 0), CEGUI::UDim(y / height, 0)));
         FileImagesets::Apply(window, "Image", image);
@@ -87,12 +85,13 @@ void CeGuiMainFrame::DestroyTooltipWindow()
 
 bool OnTooltipShow(const CEGUI::EventArgs& args)
 {
+    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
+    frame.SetDisplySystemMouse(true);
     const CEGUI::Window* item = static_cast<const CEGUI::WindowEventArgs&>(args).window;
     if (!item)
     {
         return true;
     }
-    CeGuiMainFrame& frame = *CeGuiMainFrame::GetInstance();
     const CString text = _a2w(NameBytes(item->getTooltipText()));
     const CSize size = TooltipSize(text);
     const CEGUI::Rectf area = item->getUnclippedOuterRect().get();

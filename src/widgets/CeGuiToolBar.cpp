@@ -80,6 +80,7 @@ void CeGuiToolBar::MoveBar(const RECT& place, UINT parentWidth, UINT parentHeigh
 {
     rect = place;
     triggerRect = place;
+    EndSlide();
     if (window)
     {
         PlaceWindow(rect, parentWidth, parentHeight);
@@ -229,7 +230,9 @@ void CeGuiToolBar::PlaceStaticItem(ToolBarItem& item, const RECT& place) const
     item.xScale = place.left / width;
     item.yScale = place.top / height;
     item.window->setPosition(CEGUI::UVector2(Relative(item.xScale), Relative(item.yScale)));
-    item.window->setMaxSize(CEGUI::USize(Relative(item.widthScale), Relative(2 * item.heightScale)));
+    // The limit is a share of the display, not of the bar: in a bar larger than that it would squeeze the item. 0 is no limit.
+    item.window->setMaxSize(CEGUI::USize(Relative(width > static_cast<float>(screenWidth) ? 0 : item.widthScale),
+                                         Relative(height > 2.0f * static_cast<float>(screenHeight) ? 0 : 2 * item.heightScale)));
     item.window->setSize(CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
 }
 
@@ -304,16 +307,22 @@ ToolBarItem* CeGuiToolBar::ItemAt(int index)
 
 void CeGuiToolBar::ShowBar()
 {
+    EndSlide();
     if (window && !window->isVisible())
     {
-        // It may have been hidden by sliding out.
-        PlaceWindow(rect, screenWidth, screenHeight);
         window->show();
     }
 }
 
 void CeGuiToolBar::HideBar()
 {
+    EndSlide();
+    HideWindow();
+}
+
+void CeGuiToolBar::HideWindow()
+{
+    EndDrag();
     if (window && window->isVisible())
     {
         window->hide();
@@ -347,7 +356,8 @@ void CeGuiToolBar::DestroyToolBar()
     }
     items.clear();
     itemEvents.clear();
-    dragging = false;
+    EndDrag();
+    EndSlide();
 }
 
 void CeGuiToolBar::ForgetWindow(const CEGUI::Window* gone)
@@ -357,11 +367,12 @@ void CeGuiToolBar::ForgetWindow(const CEGUI::Window* gone)
         if (bar->window == gone)
         {
             bar->window = nullptr;
+            bar->EndSlide();
         }
         if (bar->thumb == gone)
         {
             bar->thumb = nullptr;
-            bar->dragging = false;
+            bar->EndDrag();
         }
         for (ToolBarItem& item : bar->items)
         {
@@ -379,8 +390,8 @@ void CeGuiToolBar::ForgetAllWindows()
     {
         bar->window = nullptr;
         bar->thumb = nullptr;
-        bar->dragging = false;
-        bar->animating = false;
+        bar->EndDrag();
+        bar->EndSlide();
         bar->items.clear();
     }
 }

@@ -6,6 +6,7 @@
 #include <CEGUI/EventArgs.h>
 #include <CEGUI/String.h>
 #include <CEGUI/SubscriberSlot.h>
+#include <CEGUI/UDim.h>
 #include <CEGUI/Vector.h>
 
 #include <afxwin.h>
@@ -90,14 +91,21 @@ public:
     /// Always true.
     bool UpdateContentExtent();
 
+    // Whatever shows, hides or moves the bar, or changes how it hides, ends a slide that is under way: at home, clock at 0.
     void ShowBar();
     void HideBar();
+    /// Sets `autoHide`.
+    void SetAutoHide(bool hide);
+    /// Sets `slideOnHide`.
+    void SetSlideOnHide(bool slide);
     /// Destroys the windows and empties items and events. The pictures stay: the bar's own by a name that never fits (kept on
     /// purpose), the items' because nothing asks for it.
     void DestroyToolBar();
 
     /// Makes the scroll thumb when the content is taller than the bar. @return whether it was made
     bool CreateScrollThumb(UINT rightMargin, CString name, CString normalFile, CString hoverFile, CString pushedFile);
+    /// Hides the thumb, if there is one, and ends its drag.
+    void HideThumb();
     /// Brings an item to the middle of the bar, as far as the content reaches. False when there is no thumb.
     bool ScrollToItem(int index);
 
@@ -146,6 +154,9 @@ public:
 
 private:
     void PlaceWindow(const RECT& place, UINT parentWidth, UINT parentHeight);
+    void HideWindow();
+    void EndSlide();
+    void EndDrag();
     void NextItemPosition(float& x, float& y) const;
     int AppendItem(const ToolBarItem& item);
     void SubscribeWheel(CEGUI::Window& item);
@@ -162,6 +173,7 @@ private:
         WindowNames::Siblings siblings;
     };
     std::optional<ButtonsBegun> buttons_; ///< between `BeginButtons` and `EndButtons`
+    std::optional<CEGUI::UVector2> home_; ///< where the window was when it began to slide, until it is there again
     int Width() const { return rect.right - rect.left; }
     int Height() const { return rect.bottom - rect.top; }
 };

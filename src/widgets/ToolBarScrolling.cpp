@@ -12,12 +12,15 @@
 #include <CEGUI/Window.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
 const char* const ImageButtonType = "TavLook/ImageButton";
 constexpr int ThumbWidth = 6;      // bar pixels
 constexpr float WheelStep = 30.0f; // bar pixels a notch
+/// What the fractions of a column's parts, in floats, may add up to beside a whole pixel.
+constexpr double RoundedPixels = 1.0 / 16;
 
 void MarkInputTaken()
 {
@@ -36,8 +39,11 @@ bool CeGuiToolBar::UpdateContentExtent()
     {
         return true;
     }
-    const float margin = marginY / static_cast<float>(Height());
-    contentExtent = items.empty() ? 2 * margin : items.back().heightScale + items.back().yScale + margin;
+    // In pixels, which are whole for all that the owners lay out: a column that ends exactly at the bar's bottom is 1 exactly.
+    const double content =
+        items.empty() ? 2.0 * marginY : (double(items.back().heightScale) + items.back().yScale) * Height() + marginY;
+    const double whole = std::round(content);
+    contentExtent = static_cast<float>((std::fabs(content - whole) < RoundedPixels ? whole : content) / Height());
     return true;
 }
 
@@ -146,6 +152,25 @@ bool CeGuiToolBar::OnThumbMouseDown(const CEGUI::EventArgs& args)
     dragging = true;
     lastMousePos = static_cast<const CEGUI::MouseEventArgs&>(args).position;
     return true;
+}
+
+void CeGuiToolBar::EndDrag()
+{
+    dragging = false;
+    // A pressed button gets the mouse wherever that is, hidden as well, until it is released.
+    if (thumb && thumb->isCapturedByThis())
+    {
+        thumb->releaseInput();
+    }
+}
+
+void CeGuiToolBar::HideThumb()
+{
+    EndDrag();
+    if (thumb && thumb->isVisible())
+    {
+        thumb->hide();
+    }
 }
 
 bool CeGuiToolBar::OnThumbMouseUp(const CEGUI::EventArgs&)

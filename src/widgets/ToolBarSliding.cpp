@@ -48,19 +48,53 @@ void CeGuiToolBar::AutoHideByMouse(CPoint point)
     }
     if (showArmed)
     {
+        EndSlide();
         window->setPosition(CEGUI::UVector2(CEGUI::UDim(rect.left / static_cast<float>(screenWidth), 0),
                                             CEGUI::UDim(rect.top / static_cast<float>(screenHeight), 0)));
         window->show();
     }
 }
 
+void CeGuiToolBar::SetAutoHide(bool hide)
+{
+    if (autoHide != hide)
+    {
+        autoHide = hide;
+        EndSlide();
+    }
+}
+
+void CeGuiToolBar::SetSlideOnHide(bool slide)
+{
+    if (slideOnHide != slide)
+    {
+        slideOnHide = slide;
+        EndSlide();
+    }
+}
+
+void CeGuiToolBar::EndSlide()
+{
+    animating = false;
+    animClock = 0.0;
+    if (home_ && window)
+    {
+        window->setPosition(*home_);
+    }
+    home_.reset();
+}
+
 void CeGuiToolBar::StartHideAnimation(bool start)
 {
-    animating = start;
     if (!start)
     {
         HideBar();
         return;
+    }
+    animating = true;
+    if (window && !home_)
+    {
+        home_ = window->getPosition();
     }
     keyframes.clear();
     for (double t = Tick; t - 1.0 <= Tolerance; t += Tick)
@@ -107,8 +141,9 @@ void CeGuiToolBar::OnHideTimer(UINT_PTR timerId)
     }
     if (Same(animClock, 1.0))
     {
+        // The window stays where it has gone: it is at home again before it is shown.
         animating = false;
-        HideBar();
         animClock = 0.0;
+        HideWindow();
     }
 }

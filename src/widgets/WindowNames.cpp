@@ -36,6 +36,8 @@ CEGUI::Window* Create(const char* type, const CEGUI::String& name)
     // What a window leaves unhandled goes to its parent, up to the root: a double click on the bare title bar is one on the
     // scene. CEGUI 0.8 leaves this to each window, and off.
     window->setMouseInputPropagationEnabled(true);
+    // CEGUI squeezes windows into the display unless they say otherwise: these are laid out in pixels, and cut. 0 is no limit.
+    window->setMaxSize(CEGUI::USize(CEGUI::UDim(0, 0), CEGUI::UDim(0, 0)));
     return window;
 }
 

@@ -15,7 +15,7 @@ class Window;
 /// cannot stand so is renamed there and goes on being known here by the name that it was given.
 namespace WindowNames
 {
-/// A window of a type under a name.
+/// A window of a type under a name, which may be larger than the display.
 /// @throws CEGUI::Exception for an unknown type
 CEGUI::Window* Create(const char* type, const CEGUI::String& name);
 

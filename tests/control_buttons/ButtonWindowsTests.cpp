@@ -7,12 +7,71 @@
 #include <widgets/FileImageset.h>
 #include <widgets/WindowNames.h>
 
+#include <CEGUI/Exceptions.h>
+#include <CEGUI/Renderer.h>
+#include <CEGUI/System.h>
+#include <CEGUI/Texture.h>
 #include <CEGUI/Window.h>
+
+#include <algorithm>
 
 namespace
 {
 using Names = std::vector<std::string>;
 
+/// A host's slot that throws while a window is taken out of the root sheet.
+class RemovalsRefused
+{
+public:
+    RemovalsRefused()
+        : connection_(GuiHost::Find("rootSheet")
+                          ->subscribeEvent(CEGUI::Element::EventChildRemoved,
+                                           [this](const CEGUI::EventArgs&) -> bool
+                                           {
+                                               ++count;
+                                               throw CEGUI::InvalidRequestException("removal refused");
+                                           }))
+    {
+    }
+
+    int count = 0;
+
+private:
+    CEGUI::Event::ScopedConnection connection_;
+};
+
+/// A texture that takes no pixels, by a table of operations of its own in which that one is another. Nothing that a host does
+/// makes CEGUI's own refuse.
+class TextureRefused
+{
+public:
+    explicit TextureRefused(const char* name)
+        : texture_(reinterpret_cast<void***>(&CEGUI::System::getSingleton().getRenderer()->getTexture(name))), table_(*texture_)
+    {
+        std::copy(table_ - Head, table_ + Slots, copy_);
+        copy_[Head + LoadFromMemorySlot] = reinterpret_cast<void*>(&Refuse);
+        *texture_ = copy_ + Head;
+        count = 0;
+    }
+    ~TextureRefused() { *texture_ = table_; }
+    TextureRefused(const TextureRefused&) = delete;
+    TextureRefused& operator=(const TextureRefused&) = delete;
+
+    inline static int count = 0;
+
+private:
+    static constexpr int Head = 2; ///< offset and type before the first operation
+    static constexpr int Slots = 11;
+    static constexpr int LoadFromMemorySlot = 7;
+    static void Refuse(CEGUI::Texture*, const void*, const CEGUI::Sizef&, CEGUI::Texture::PixelFormat)
+    {
+        ++count;
+        throw CEGUI::InvalidRequestException("texture refused");
+    }
+    void*** texture_;
+    void** table_;
+    void* copy_[Head + Slots];
+};
 } // namespace
 
 class ButtonWindowsTest : public FrameTest
@@ -154,4 +213,57 @@ TEST_F(ButtonWindowsTest, a_deletion_without_windows_still_takes_the_record)
     Frame().ClearAllWindows();
     Frame().DeleteButton(L"a");
     EXPECT_EQ(NamesNow(), Names{"b"});
+}
+
+TEST_F(ButtonWindowsTest, a_deletion_ends_at_an_exception_from_cegui)
+{
+    AddWindow("button");
+    Frame().SetCtrlBtnInfo({Record(L"button"), Record(L"b")});
+    const RefreshesCounted counted;
+    {
+        const RemovalsRefused refused;
+        EXPECT_NO_THROW(Frame().DeleteButton(L"button"));
+        EXPECT_EQ(refused.count, 1);
+    }
+    EXPECT_EQ(NamesNow(), (Names{"button", "b"})) << "the record stays";
+    EXPECT_EQ(counted.count, 0) << "and nothing is refreshed";
+    EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: control button not deleted (removal refused): button"});
+    Frame().DeleteButton(L"button");
+    EXPECT_EQ(NamesNow(), Names{"b"});
+    EXPECT_EQ(counted.count, 1);
+}
+
+TEST_F(ButtonWindowsTest, clearing_goes_on_after_an_exception_from_cegui)
+{
+    Frame().SetCtrlBtnInfo({Record(L"a"), Record(L"b")});
+    AddWindow("TavGuiButton_0");
+    AddWindow("TavGuiButton_1");
+    const wchar_t* const pictures[] = {L"TavGuiButtonImgNor0.bmp", L"TavGuiButtonImgHov0.bmp", L"TavGuiButtonImgPsh0.bmp",
+                                       L"TavGuiButtonImgNor1.bmp", L"TavGuiButtonImgHov1.bmp", L"TavGuiButtonImgPsh1.bmp"};
+    for (const wchar_t* file : pictures)
+    {
+        WriteSkinPicture(file, 0xFFFF0000);
+        FileImagesets::Create(file);
+    }
+    {
+        const RemovalsRefused refused;
+        const TextureRefused texture("TavGuiButtonImgNor0.bmp");
+        EXPECT_NO_THROW(Frame().ClearAllCtrlBtn());
+        EXPECT_EQ(refused.count, 2) << "each window was tried";
+        EXPECT_EQ(texture.count, 1);
+    }
+    EXPECT_TRUE(FileImagesets::IsPresent(pictures[0])) << "the one that refused";
+    for (const wchar_t* file : pictures)
+    {
+        EXPECT_EQ(FileImagesets::IsPresent(file), file == pictures[0]) << Utf8(file);
+    }
+    EXPECT_EQ(TakeLog(), (Lines{"NxOsgCeGui: control button's window not destroyed (removal refused): TavGuiButton_0",
+                                "NxOsgCeGui: control button's picture not destroyed (texture refused): TavGuiButtonImgNor0.bmp",
+                                "NxOsgCeGui: control button's window not destroyed (removal refused): TavGuiButton_1"}));
+    Frame().ClearAllCtrlBtn();
+    for (const wchar_t* file : pictures)
+    {
+        EXPECT_FALSE(FileImagesets::IsPresent(file)) << Utf8(file);
+        DeleteFileW(SkinDir() + file);
+    }
 }

@@ -165,3 +165,35 @@ TEST_F(LeftListTest, changed_records_are_seen_after_the_next_build)
     EXPECT_EQ(Place("r1_P"), "no window");
     EXPECT_EQ(Place("other_P"), "11,63 - 137,159");
 }
+
+TEST_F(LeftListTest, that_ends_exactly_at_the_bars_bottom_has_no_scroll_bar)
+{
+    for (const int count : {2, 3, 4, 5, 6, 7, 8})
+    {
+        SCOPED_TRACE(count);
+        Frame().SetCtrlBtnInfo(Records(count));
+        // 52 of title bar and border, 13 above each entry and below the last.
+        const int exact = 52 + 13 + count * (96 + 13);
+        Host().Resize(ViewWidth, exact);
+        EXPECT_EQ(Place("scrollbar"), "no window");
+        SlideIn(50, 100);
+        ASSERT_TRUE(Visible(List));
+        Host().Wheel(50, 100, -1);
+        EXPECT_EQ(Place("r0_P"), "11,63 - 137,159");
+        Host().Resize(ViewWidth, exact - 1);
+        EXPECT_NE(Place("scrollbar"), "no window");
+    }
+}
+
+TEST_F(LeftListTest, in_a_view_narrower_than_itself_is_cut_and_not_squeezed)
+{
+    Frame().SetCtrlBtnInfo(Records(7));
+    for (const int width : {151, 110, 60})
+    {
+        SCOPED_TRACE(width);
+        Host().Resize(width, ViewHeight);
+        EXPECT_EQ(Place(List), "1,50 - 153,598");
+        EXPECT_EQ(Place("r0_P"), "11,63 - 137,159");
+        EXPECT_EQ(Text({GuiHost::RectOf("scrollbar").left, 0, GuiHost::RectOf("scrollbar").right, 0}), "144,0 - 150,0");
+    }
+}

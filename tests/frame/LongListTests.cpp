@@ -175,6 +175,21 @@ TEST_F(LongListTest, a_drag_keeps_the_list_while_the_mouse_is_beside_it)
     EXPECT_FALSE(Visible("TavLeftCtrlFrame"));
 }
 
+TEST_F(LongListTest, a_drag_ends_when_the_list_is_switched_off)
+{
+    MoveTo(147, 51);
+    Host().Press(147, 50);
+    MoveTo(147, 151);
+    Frame().OnToolBarRCList(nullptr);
+    Frame().OnToolBarRCList(nullptr);
+    const int scrolled = Scrolled();
+    MoveTo(147, 300);
+    EXPECT_EQ(Scrolled(), scrolled);
+    Host().Release(147, 300);
+    Host().MoveMouse(310, 210);
+    EXPECT_FALSE(Visible("TavLeftCtrlFrame")) << "nothing keeps it";
+}
+
 TEST_F(LongListTest, by_stepping_to_the_next_entry)
 {
     for (const int from : {0, 498, 997, 998})

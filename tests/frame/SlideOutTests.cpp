@@ -26,6 +26,14 @@ protected:
         FrameTest::TearDown();
     }
 
+    static void Ticks(int count)
+    {
+        for (int i = 0; i < count; ++i)
+        {
+            Frame().OnTimer(HideTimer);
+        }
+    }
+
     /// Ticks a bar out and expects it at each step where the animation has it, then hidden, then back home.
     /// @param place the bar's left and top for a share of the way out
     template <class Place>
@@ -171,5 +179,104 @@ TEST_F(SlideOutTest, switched_off_again_bars_go_at_once)
     EXPECT_FALSE(Frame().IsSlideOutEnabled());
     SlideIn(50, 300);
     Host().MoveMouse(400, 300);
+    EXPECT_FALSE(Visible("TavLeftCtrlFrame"));
+}
+
+TEST_F(SlideOutTest, the_title_bar_is_at_home_when_full_scene_is_left_while_it_slides)
+{
+    Frame().EnableSlideOut(true);
+    Host().DoubleClick(400, 300);
+    ASSERT_TRUE(Frame().IsFullScene());
+    SlideIn(400, 20);
+    Host().MoveMouse(400, 300);
+    Ticks(4);
+    EXPECT_EQ(Place("TavTitleBackground"), "0,-24 - 800,26");
+    Host().DoubleClick(400, 300);
+    ASSERT_FALSE(Frame().IsFullScene());
+    for (int i = 0; i < 12; ++i)
+    {
+        EXPECT_TRUE(Visible("TavTitleBackground"));
+        EXPECT_EQ(Place("TavTitleBackground"), "0,0 - 800,50");
+        Ticks(1);
+    }
+    Host().Click(684, 25);
+    EXPECT_TRUE(Frame().IsFullScene()) << "its buttons are where they are seen";
+    SlideIn(400, 20);
+    EXPECT_EQ(Place("TavTitleBackground"), "0,0 - 800,50");
+    Host().MoveMouse(400, 300);
+    Ticks(1);
+    EXPECT_EQ(Place("TavTitleBackground"), "0,-6 - 800,44") << "the next slide begins at its beginning";
+}
+
+TEST_F(SlideOutTest, the_title_bar_is_at_home_when_full_scene_is_left_after_it_has_slid_out)
+{
+    Frame().EnableSlideOut(true);
+    Frame().OnToolBarFullScene(true);
+    SlideIn(400, 20);
+    Host().MoveMouse(400, 300);
+    Ticks(10);
+    ASSERT_FALSE(Visible("TavTitleBackground"));
+    Frame().OnToolBarFullScene(false);
+    EXPECT_TRUE(Visible("TavTitleBackground"));
+    EXPECT_EQ(Place("TavTitleBackground"), "0,0 - 800,50");
+}
+
+TEST_F(SlideOutTest, a_list_switched_off_and_on_while_it_slides_stays)
+{
+    Frame().EnableSlideOut(true);
+    SlideIn(50, 300);
+    Host().MoveMouse(400, 300);
+    Ticks(3);
+    EXPECT_EQ(Place("TavLeftCtrlFrame"), "-56,50 - 96,598");
+    Frame().OnToolBarRCList(nullptr);
+    EXPECT_FALSE(Visible("TavLeftCtrlFrame"));
+    Ticks(2);
+    Frame().OnToolBarRCList(nullptr);
+    for (int i = 0; i < 12; ++i)
+    {
+        EXPECT_TRUE(Visible("TavLeftCtrlFrame"));
+        EXPECT_EQ(Place("TavLeftCtrlFrame"), "1,50 - 153,598");
+        Ticks(1);
+    }
+    Host().MoveMouse(401, 300);
+    Ticks(10);
+    EXPECT_FALSE(Visible("TavLeftCtrlFrame")) << "it hides by itself as ever";
+}
+
+TEST_F(SlideOutTest, a_switch_of_full_scene_brings_bars_that_slide_to_their_new_places)
+{
+    for (const bool full : {true, false})
+    {
+        Frame().EnableSlideOut(true);
+        Frame().OnToolBarFullScene(!full);
+        SlideIn(50, 300);
+        Host().MoveMouse(400, 300);
+        Ticks(3);
+        ASSERT_TRUE(Bar(L"TavLeftCtrlFrame").animating);
+        Frame().OnToolBarFullScene(full);
+        Ticks(3);
+        EXPECT_EQ(Place("TavLeftCtrlFrame"), full ? "0,0 - 152,600" : "1,50 - 153,598");
+        EXPECT_TRUE(Visible("TavLeftCtrlFrame"));
+        Host().MoveMouse(401, 300);
+        Ticks(10);
+        EXPECT_FALSE(Visible("TavLeftCtrlFrame"));
+    }
+}
+
+TEST_F(SlideOutTest, switched_off_in_the_middle_bars_are_at_home_until_the_mouse_moves)
+{
+    Frame().EnableSlideOut(true);
+    SlideIn(50, 300);
+    Host().MoveMouse(400, 300);
+    Ticks(3);
+    Frame().EnableSlideOut(true);
+    EXPECT_EQ(Place("TavLeftCtrlFrame"), "-56,50 - 96,598") << "no change";
+    Frame().EnableSlideOut(false);
+    EXPECT_EQ(Place("TavLeftCtrlFrame"), "1,50 - 153,598");
+    Frame().EnableSlideOut(true);
+    Ticks(1);
+    EXPECT_EQ(Place("TavLeftCtrlFrame"), "1,50 - 153,598");
+    Frame().EnableSlideOut(false);
+    Host().MoveMouse(401, 300);
     EXPECT_FALSE(Visible("TavLeftCtrlFrame"));
 }

@@ -66,6 +66,30 @@ TEST_F(ToolBarTest, follows_the_size_of_the_view)
     EXPECT_EQ(Text(Bar(ToolBarKey).triggerRect), "0,608 - 584,700");
 }
 
+TEST_F(ToolBarTest, in_a_view_narrower_than_itself_it_is_cut_and_not_squeezed)
+{
+    for (const int width : {582, 400, 150})
+    {
+        SCOPED_TRACE(width);
+        Host().Resize(width, ViewHeight);
+        EXPECT_EQ(Place(ToolBar), "1,508 - 584,598");
+        EXPECT_EQ(Place("TavToolButtom_1"), "31,524 - 93,586");
+        EXPECT_EQ(Place("TavToolButtom_6"), "491,524 - 553,586");
+        EXPECT_EQ(Place("TavLeftCtrlFrame"), "1,50 - 153,598");
+        Frame().OnToolBarFullScene(true);
+        EXPECT_EQ(Place(ToolBar), "0,510 - 583,600");
+        EXPECT_EQ(Place("TavToolButtom_6"), "490,526 - 552,588");
+        Frame().OnToolBarFullScene(false);
+    }
+    // What is seen of it works.
+    Host().Resize(400, ViewHeight);
+    Host().MoveMouse(300, 300);
+    Host().MoveMouse(300, 560);
+    ASSERT_TRUE(Visible(ToolBar));
+    Host().Click(153, 556);
+    EXPECT_EQ(Host().TakeCodes(), (std::vector<WPARAM>{GUI_CMD_ROAM}));
+}
+
 TEST_F(ToolBarTest, carries_its_background_and_hides_by_itself)
 {
     EXPECT_EQ(ImageOf(ToolBar), "new_skin/bottomBG.png/full_image");

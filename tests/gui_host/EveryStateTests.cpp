@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every operation in every state that a host can bring the interface into.
+#include "EveryOperation.h"
+
 #include "support/HostedFrame.h"
 
 #include <NxOsgCeGui/TitleDialog.h>
@@ -212,7 +214,9 @@ const std::vector<Operation>& Operations()
     return operations;
 }
 
-void RunAll(CeGuiMainFrame& frame)
+} // namespace
+
+void CallEveryOperation(CeGuiMainFrame& frame)
 {
     frame.SetCtrlBtnInfo({});
     frame.SetBtnIndex(-1);
@@ -229,6 +233,8 @@ void RunAll(CeGuiMainFrame& frame)
     frame.SetBtnIndex(-1);
 }
 
+namespace
+{
 /// Title pictures and fonts that are not there may be told in the log: what matters here is that nothing falls over.
 class EveryOperation : public HostedFrame
 {
@@ -260,7 +266,7 @@ protected:
 TEST_F(EveryOperation, is_safe_before_init)
 {
     Host().Close();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     EXPECT_FALSE(Frame().CreateMainFrame());
     Frame().CloseGuiSystem();
     EXPECT_FALSE(Frame().IsInit());
@@ -270,14 +276,14 @@ TEST_F(EveryOperation, is_safe_after_init_and_before_the_first_resize)
 {
     Host().Close();
     Host().InitOnly();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_TRUE(Frame().IsInit());
 }
 
 TEST_F(EveryOperation, is_safe_while_the_frame_stands)
 {
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_EQ(Host().Find("rootSheet"), nullptr) << "the last operation takes it away";
 }
@@ -285,7 +291,7 @@ TEST_F(EveryOperation, is_safe_while_the_frame_stands)
 TEST_F(EveryOperation, is_safe_between_clear_all_windows_and_create_main_frame)
 {
     Frame().ClearAllWindows();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_TRUE(Frame().CreateMainFrame());
 }
@@ -293,7 +299,7 @@ TEST_F(EveryOperation, is_safe_between_clear_all_windows_and_create_main_frame)
 TEST_F(EveryOperation, is_safe_after_destory_all_tool_bar)
 {
     Frame().DestoryAllToolBar();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_TRUE(Frame().CreateMainFrame());
 }
@@ -301,7 +307,7 @@ TEST_F(EveryOperation, is_safe_after_destory_all_tool_bar)
 TEST_F(EveryOperation, is_safe_after_the_close_button)
 {
     Host().Click(772, 25);
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_TRUE(Frame().IsInit());
 }
@@ -313,7 +319,7 @@ TEST_F(EveryOperation, is_safe_after_a_failed_resize)
         Rebuild();
         ASSERT_EQ(Host().Find("rootSheet"), nullptr);
     }
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_TRUE(Frame().CreateMainFrame());
 }
@@ -321,7 +327,7 @@ TEST_F(EveryOperation, is_safe_after_a_failed_resize)
 TEST_F(EveryOperation, is_safe_after_close_gui_system)
 {
     Host().Close();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Frame().CloseGuiSystem();
     EXPECT_FALSE(Frame().CreateMainFrame());
 }
@@ -332,14 +338,14 @@ TEST_F(EveryOperation, is_safe_when_the_viewer_has_lost_its_window)
     const osg::ref_ptr<osg::GraphicsContext> context = camera.getGraphicsContext();
     camera.setGraphicsContext(nullptr);
     EXPECT_EQ(Frame().GetHwnd(), nullptr);
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     camera.setGraphicsContext(context);
 }
 
 TEST_F(EveryOperation, is_safe_while_the_title_is_edited)
 {
     OpenTitleEditDialog();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     CloseTitleEditDialog();
 }
@@ -347,7 +353,7 @@ TEST_F(EveryOperation, is_safe_while_the_title_is_edited)
 TEST_F(EveryOperation, is_safe_in_a_view_of_one_pixel)
 {
     Host().Resize(1, 1);
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     Host().Resize(ViewWidth, ViewHeight);
 }
@@ -358,7 +364,7 @@ TEST_F(EveryOperation, is_safe_when_the_viewers_context_is_closed)
     GuiHost other(320, 240);
     other.Start();
     other.Viewer().getCamera()->getGraphicsContext()->close();
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     EXPECT_TRUE(Frame().IsInit());
 }
 
@@ -368,7 +374,7 @@ TEST_F(EveryOperation, is_safe_and_raises_nothing_without_the_skins_imageset)
     EXPECT_NO_THROW(Frame().ClearAllWindows());
     EXPECT_FALSE(Frame().CreateMainFrame());
     EXPECT_EQ(CountLogLines("TavLook.imageset"), 1) << "once for both";
-    RunAll(Frame());
+    CallEveryOperation(Frame());
     Host().Frames(2);
     EXPECT_EQ(Host().Find("TavTitleBackground"), nullptr);
 }

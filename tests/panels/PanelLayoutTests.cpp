@@ -141,6 +141,54 @@ TEST_F(PanelLayoutTest, a_view_of_240_x_200_is_the_smallest)
     }
 }
 
+TEST_F(PanelLayoutTest, in_a_view_narrower_than_itself_it_is_cut_and_not_squeezed)
+{
+    for (const int width : {240, 250, 259})
+    {
+        SCOPED_TRACE(width);
+        Open(NumberedRows(3));
+        Host().Resize(width, 400);
+        MakeContextCurrent();
+        const LONG right = width - 2;
+        EXPECT_EQ(Place(PanelFrame), Text({right - 260, 50, right, 398}));
+        EXPECT_EQ(Place(PanelPicture), Text({right - 260, 50, right, 398}));
+        EXPECT_EQ(Place(ListFrame), Text({right - 260, 85, right, 388}));
+        EXPECT_EQ(Place(ListPicture), Text({right - 260, 85, right, 388}));
+        // The picture's pixels as they are, from the view's left border on.
+        const PictureFile row = DrawnRow(L"name 0", L"value 0");
+        const Screenshot shot = Host().Shoot();
+        MakeContextCurrent();
+        int differing = 0;
+        for (int x = 2; x < right; ++x)
+        {
+            differing += !LooksLike(shot.At(x, ListTop + 12), Blend(row.Argb(x - right + 260, 12), Background()), 4);
+        }
+        EXPECT_EQ(differing, 0);
+        EXPECT_TRUE(Refresh(NumberedRows(40)));
+        EXPECT_EQ(Place(ListPicture), Text({right - 260, 85, right, 85 + 40 * RowHeight}));
+        Frame().OnToolBarFullScene(true);
+        EXPECT_EQ(Place(PanelPicture), Text({width - 260, 0, width, 400}));
+        EXPECT_EQ(Place(ListFrame), Text({width - 260, 35, width, 390}));
+        Frame().OnToolBarFullScene(false);
+    }
+}
+
+TEST_F(PanelLayoutTest, opened_again_it_is_where_the_last_refresh_placed_it)
+{
+    Open(NumberedRows(3));
+    // The host stores another size than the last event's, and has the panel laid out for it.
+    Frame().SetWindowSize(ViewWidth, ViewHeight * 2);
+    EXPECT_TRUE(Frame().RefreshPropertyDlg());
+    const std::string panel = Place(PanelFrame);
+    const std::string list = Place(ListFrame);
+    EXPECT_EQ(panel, "538,25 - 798,599");
+    Frame().OpenPropertyDlg(nullptr, false);
+    Frame().OpenPropertyDlg(nullptr, true);
+    EXPECT_EQ(Place(PanelFrame), panel);
+    EXPECT_EQ(Place(ListFrame), list);
+    Frame().SetWindowSize(ViewWidth, ViewHeight);
+}
+
 TEST_F(PanelLayoutTest, too_small_a_view_changes_nothing)
 {
     Open(NumberedRows(3));

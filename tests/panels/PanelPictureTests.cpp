@@ -9,6 +9,8 @@
 
 #include <CEGUI/WindowFactoryManager.h>
 
+#include <algorithm>
+
 using PanelPictureTest = PanelTest;
 
 namespace
@@ -254,4 +256,37 @@ TEST_F(PanelPictureTest, a_file_that_cannot_be_written_keeps_the_old_picture)
     EXPECT_EQ(TakeLog().size(), 1u);
     EXPECT_TRUE(Refresh(NumberedRows(40)));
     EXPECT_EQ(Place(ListPicture), "538,85 - 798,1005");
+}
+
+TEST_F(PanelPictureTest, a_size_event_writes_the_list_once_in_either_mode)
+{
+    for (const bool full : {false, true})
+    {
+        Frame().OnToolBarFullScene(full);
+        Open(NumberedRows(3));
+        TakeLog();
+        // A file that is held takes no picture, and each one that is not taken is a line.
+        const FileHeld held(ListFile());
+        Rebuild();
+        const Lines log = TakeLog();
+        EXPECT_EQ(std::count_if(log.begin(), log.end(),
+                                [](const std::string& line) { return line.find("PropertyImage_0.bmp") != std::string::npos; }),
+                  1)
+            << (full ? "full scene" : "windowed");
+    }
+    Rebuild();
+    EXPECT_EQ(Place(ListPicture), "540,35 - 800,590");
+}
+
+TEST_F(PanelPictureTest, a_size_event_in_full_scene_makes_the_list_anew_and_refreshes_it_only_then)
+{
+    Frame().OnToolBarFullScene(true);
+    Open(NumberedRows(40));
+    Frame().RefreshPropertyDlg();
+    ASSERT_TRUE(Visible(Thumb));
+    Rebuild();
+    EXPECT_EQ(Place(ListPicture), "540,35 - 800,955");
+    EXPECT_EQ(GuiHost::Find(Thumb), nullptr) << "as in the windowed mode: from the second refresh on";
+    Frame().RefreshPropertyDlg();
+    EXPECT_TRUE(Visible(Thumb));
 }

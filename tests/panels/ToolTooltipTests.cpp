@@ -77,6 +77,25 @@ TEST_F(ToolTooltipTest, the_button_that_leaves_full_scene)
     EXPECT_EQ(rect.right - rect.left, WidthOf("LKEY4", true));
 }
 
+TEST_F(ToolTooltipTest, the_host_is_to_show_the_systems_mouse_from_its_showing_on)
+{
+    SlideIn(110, 550);
+    for (const char* item : {"TavToolButtom_2", "TavTilteCloseButtom"})
+    {
+        bool told = false;
+        // After the item's own slot, and before the move itself is an event.
+        CEGUI::Event::ScopedConnection entering = GuiHost::Find(item)->subscribeEvent(CEGUI::Window::EventMouseEntersSurface,
+                                                                                      [&](const CEGUI::EventArgs&)
+                                                                                      {
+                                                                                          told = Frame().IsDisplySystemMouse();
+                                                                                          return true;
+                                                                                      });
+        Frame().SetDisplySystemMouse(false);
+        Hover(item);
+        EXPECT_TRUE(told) << item;
+    }
+}
+
 TEST_F(ToolTooltipTest, gone_when_the_mouse_leaves)
 {
     SlideIn(110, 550);

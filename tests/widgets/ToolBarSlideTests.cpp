@@ -161,6 +161,78 @@ TEST_F(ToolBarSlide, bar_that_slid_out_comes_back_whole_and_slides_again)
     }
 }
 
+TEST_F(ToolBarSlide, every_change_of_the_bars_mode_ends_the_slide_at_home)
+{
+    const RECT home = {0, 50, 150, 250};
+    const struct
+    {
+        const char* name;
+        void (*change)(CeGuiToolBar& bar);
+        bool visible;
+    } rows[] = {
+        {"shown", [](CeGuiToolBar& bar) { bar.ShowBar(); }, true},
+        {"hidden", [](CeGuiToolBar& bar) { bar.HideBar(); }, false},
+        {"hidden and shown",
+         [](CeGuiToolBar& bar)
+         {
+             bar.HideBar();
+             bar.ShowBar();
+         },
+         true},
+        {"moved", [](CeGuiToolBar& bar) { bar.MoveBar(bar.rect, ViewWidth, ViewHeight); }, true},
+        {"called off", [](CeGuiToolBar& bar) { bar.StartHideAnimation(false); }, false},
+        {"kept from hiding by itself", [](CeGuiToolBar& bar) { bar.SetAutoHide(false); }, true},
+        {"kept from sliding", [](CeGuiToolBar& bar) { bar.SetSlideOnHide(false); }, true},
+    };
+    for (const auto& row : rows)
+    {
+        for (const int ticks : {0, 1, 5, 9})
+        {
+            SCOPED_TRACE(std::string(row.name) + " after " + std::to_string(ticks) + " ticks");
+            CeGuiToolBar& bar = SlidingBar(home, BAR_LIST);
+            for (int tick = 0; tick < ticks; ++tick)
+            {
+                bar.OnHideTimer(Tick);
+            }
+            row.change(bar);
+            for (int tick = 0; tick < 11; ++tick)
+            {
+                EXPECT_FALSE(bar.animating);
+                EXPECT_EQ(bar.animClock, 0.0);
+                EXPECT_EQ(bar.window->isVisible(), row.visible);
+                EXPECT_EQ(Place(*bar.window), Text(home));
+                bar.OnHideTimer(Tick);
+            }
+            bar.ShowBar();
+            bar.autoHide = true;
+            bar.slideOnHide = true;
+            bar.StartHideAnimation(true);
+            bar.OnHideTimer(Tick);
+            EXPECT_EQ(Place(*bar.window), Text({-20, 50, 130, 250})) << "the next slide begins at its beginning";
+            bar.DestroyToolBar();
+        }
+    }
+}
+
+TEST_F(ToolBarSlide, bar_placed_for_another_screen_size_comes_back_to_that_place)
+{
+    CeGuiToolBar& bar = NewBar({0, 0, 150, 200}, BAR_LIST);
+    bar.autoHide = true;
+    bar.slideOnHide = true;
+    bar.MoveBar({20, 60, 220, 260}, 800, 600);
+    for (const int ticks : {3, 10})
+    {
+        bar.StartHideAnimation(true);
+        for (int tick = 0; tick < ticks; ++tick)
+        {
+            bar.OnHideTimer(Tick);
+        }
+        bar.ShowBar();
+        EXPECT_TRUE(bar.window->isVisible());
+        EXPECT_EQ(Place(*bar.window), Text({10, 30, 110, 130}));
+    }
+}
+
 TEST_F(ToolBarSlide, bar_without_a_window_does_not_slide)
 {
     CeGuiToolBar& bar = SlidingBar({0, 210, 400, 300}, BAR_TOOLS);

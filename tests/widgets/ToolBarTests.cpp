@@ -92,6 +92,49 @@ TEST_F(ToolBar, moved_bar_takes_rectangle_and_trigger_but_not_the_screen_size)
     EXPECT_EQ(bar.screenHeight, 300u);
 }
 
+TEST_F(ToolBar, bar_moved_for_another_screen_size_is_shown_again_where_it_was)
+{
+    CeGuiToolBar& bar = NewBar({0, 0, 100, 50}, BAR_TITLE);
+    bar.MoveBar({20, 30, 120, 90}, 800, 600);
+    bar.HideBar();
+    bar.ShowBar();
+    EXPECT_TRUE(bar.window->isVisible());
+    EXPECT_EQ(Place(*bar.window), Text({10, 15, 60, 45}));
+}
+
+TEST_F(ToolBar, bar_larger_than_the_view_keeps_its_rectangle)
+{
+    for (const RECT& rect : {RECT{-50, 0, 550, 50}, RECT{100, 20, 900, 70}, RECT{0, -10, 150, 500}, RECT{-500, -500, 900, 900}})
+    {
+        CeGuiToolBar& bar = NewBar(rect, BAR_TITLE, L"", L"large");
+        EXPECT_EQ(Place(*bar.window), Text(rect));
+        RECT moved = rect;
+        OffsetRect(&moved, 3, 4);
+        bar.MoveBar(moved, ViewWidth, ViewHeight);
+        EXPECT_EQ(Place(*bar.window), Text(moved));
+    }
+}
+
+TEST_F(ToolBar, items_of_a_bar_larger_than_the_view_keep_theirs)
+{
+    for (const UINT type : {BAR_TITLE, BAR_TOOLS, BAR_LIST, BAR_PANEL})
+    {
+        SCOPED_TRACE(type);
+        CeGuiToolBar& bar = NewBar({-100, -50, 900, 850}, type, L"", L"large");
+        bar.buttonWidth = 500;
+        bar.buttonHeight = 400;
+        const CEGUI::Window& button = AddButton(bar, L"button");
+        EXPECT_EQ(button.getPixelSize(), CEGUI::Sizef(500, 400));
+        bar.AddStaticImage({10, 20, 1000, 900}, L"picture", L"");
+        EXPECT_EQ(Place(*bar.items[1].window), Text({-90, -30, 900, 850}));
+        bar.PlaceItem(1, {0, 0, 1000, 880});
+        EXPECT_EQ(Place(*bar.items[1].window), Text({-100, -50, 900, 830}));
+        bar.contentExtent = 2;
+        ASSERT_TRUE(bar.CreateScrollThumb(4, L"thumb", L"", L"", L""));
+        EXPECT_EQ(Place(*bar.thumb), Text({890, -50, 896, 400}));
+    }
+}
+
 TEST_F(ToolBar, bar_without_a_window_is_moved_in_its_fields)
 {
     CeGuiToolBar& bar = NewBar({0, 0, 100, 50}, BAR_TITLE);
