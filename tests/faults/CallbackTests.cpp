@@ -19,19 +19,26 @@ namespace
 class Thrower
 {
 public:
-    void Arm(std::function<void()> thrown) { thrown_ = std::move(thrown); }
+    void Arm(std::function<void()> thrown)
+    {
+        thrown_ = std::move(thrown);
+        hasThrown_ = false;
+    }
     void Pass() const
     {
         if (thrown_)
         {
             const std::function<void()> thrown = std::exchange(thrown_, nullptr);
+            hasThrown_ = true;
             thrown();
         }
     }
-    bool IsArmed() const { return thrown_ != nullptr; }
+    /// Since it was armed last.
+    bool HasThrown() const { return hasThrown_; }
 
 private:
     mutable std::function<void()> thrown_;
+    mutable bool hasThrown_ = false;
 };
 
 Thrower thrower;
@@ -91,8 +98,8 @@ protected:
         thrower.Arm(nullptr);
         FaultTest::TearDown();
     }
-    /// Runs a frame with a move of the mouse in it, from which the host's exception may come back to the host.
-    static void RunFrame()
+    /// Runs a frame with a move of the mouse in it. @return whether an exception has come back to the host
+    static bool RunFrame()
     {
         try
         {
@@ -101,7 +108,9 @@ protected:
         }
         catch (...)
         {
+            return true;
         }
+        return false;
     }
     void ExpectBack()
     {
@@ -143,11 +152,11 @@ TEST_F(Callbacks, that_throw_in_the_hosts_scene_or_viewer_leave_the_interface_as
     {
         for (const auto& [kind, thrown] : kinds)
         {
-            const Fault fault(std::string(kind) + " from " + callee.name);
+            Fault fault(std::string(kind) + " from " + callee.name);
             callee.add();
             thrower.Arm(thrown);
-            RunFrame();
-            EXPECT_FALSE(thrower.IsArmed());
+            EXPECT_TRUE(RunFrame());
+            fault.Bites(thrower.HasThrown());
             callee.remove();
             ExpectBack();
         }
@@ -166,7 +175,7 @@ TEST_F(Callbacks, that_throw_in_a_slot_of_the_hosts_end_in_the_log)
     {
         for (const auto& [kind, thrown] : kinds)
         {
-            const Fault fault(std::string(kind) + " from a slot for " + name);
+            Fault fault(std::string(kind) + " from a slot for " + name);
             const bool key = *event == CEGUI::Window::EventKeyDown;
             CEGUI::Window& window = Window(key ? "rootSheet" : "TavTitleBackground");
             CEGUI::Event::Connection slot = window.subscribeEvent(
@@ -179,7 +188,7 @@ TEST_F(Callbacks, that_throw_in_a_slot_of_the_hosts_end_in_the_log)
                 Host().Wheel(Width / 2, 20, 1);
                 Host().Key(VK_F5);
             });
-            EXPECT_FALSE(thrower.IsArmed());
+            fault.Bites(thrower.HasThrown());
             slot->disconnect();
             const Lines log = NewLog();
             EXPECT_EQ(log.size(), 1u) << testing::PrintToString(log);
@@ -193,14 +202,15 @@ TEST_F(Callbacks, that_throw_while_the_interface_draws_reach_the_host_and_the_ne
 {
     for (const auto& [kind, thrown] : kinds)
     {
-        const Fault fault(std::string(kind) + " from a slot of a window that is drawn");
+        Fault fault(std::string(kind) + " from a slot of a window that is drawn");
         CEGUI::Event::Connection slot =
             Window("TavTilteLogo")
                 .subscribeEvent(CEGUI::Window::EventRenderingStarted,
                                 CEGUI::Event::Subscriber([](const CEGUI::EventArgs&) { return thrower.Pass(), false; }));
         thrower.Arm(thrown);
         Window("TavTilteLogo").invalidate();
-        RunFrame();
+        EXPECT_TRUE(RunFrame());
+        fault.Bites(thrower.HasThrown());
         slot->disconnect();
         thrower.Arm(nullptr);
         ExpectBack();
@@ -209,7 +219,7 @@ TEST_F(Callbacks, that_throw_while_the_interface_draws_reach_the_host_and_the_ne
 
 TEST_F(Callbacks, that_throw_out_of_the_hosts_message_loop_lose_nothing)
 {
-    const Fault fault("an exception out of the host's handling of a command");
+    Fault fault("an exception out of the host's handling of a command");
     Host().TakeMessages();
     try
     {
@@ -222,6 +232,7 @@ TEST_F(Callbacks, that_throw_out_of_the_hosts_message_loop_lose_nothing)
     }
     catch (const std::runtime_error&)
     {
+        fault.Bites(true);
     }
     EXPECT_FALSE(Stands()) << "the close button takes the frame away before it asks the host to close";
     Host().MoveMouse(Width / 2, Height / 2);

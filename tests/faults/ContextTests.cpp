@@ -102,9 +102,10 @@ TEST_F(Contexts, closed_and_made_again_bring_the_frame_back_with_the_next_size_e
 {
     for (int i = 0; i < 2; ++i)
     {
-        const Fault fault("the viewer's window closed and made again, time " + std::to_string(i));
+        Fault fault("the viewer's window closed and made again, time " + std::to_string(i));
         const osg::ref_ptr<osg::GraphicsContext> lost = Camera().getGraphicsContext();
         lost->close();
+        fault.Bites(!lost->makeCurrent());
         UseWithoutDrawing();
         Camera().setGraphicsContext(nullptr);
         UseWithoutDrawing();
@@ -117,20 +118,26 @@ TEST_F(Contexts, closed_and_made_again_bring_the_frame_back_with_the_next_size_e
 
 TEST_F(Contexts, changed_for_another_bring_the_frame_back_with_the_next_size_event)
 {
-    const Fault fault("another context given to the viewer, and the former one closed after that");
+    Fault fault("another context given to the viewer, and the former one closed after that");
     const osg::ref_ptr<osg::GraphicsContext> lost = Camera().getGraphicsContext();
     ViewWindow window(other_->MainWindow(), Width, Height);
     Show(window);
     lost->close();
+    fault.Bites(!lost->makeCurrent() && Camera().getGraphicsContext() != lost);
     other_->Frames(2);
     ExpectBack(window.Window());
 }
 
 TEST_F(Contexts, released_by_the_host_are_filled_again_by_the_next_frame)
 {
-    const Fault fault("OpenGL objects of the scene released");
+    Fault fault("OpenGL objects of the scene released");
     MakeCurrent();
+    const osg::Texture& texture =
+        dynamic_cast<const osg::Texture&>(*wall_->getStateSet()->getTextureAttribute(0, osg::StateAttribute::TEXTURE));
+    const unsigned int context = Camera().getGraphicsContext()->getState()->getContextID();
+    ASSERT_NE(texture.getTextureObject(context), nullptr);
     other_->Root().releaseGLObjects(Camera().getGraphicsContext()->getState());
+    fault.Bites(texture.getTextureObject(context) == nullptr);
     other_->Frames(1);
     EXPECT_TRUE(other_->Shoot().pixels == good_.pixels) << "without a size event";
     ExpectBack(other_->Window());
@@ -138,9 +145,10 @@ TEST_F(Contexts, released_by_the_host_are_filled_again_by_the_next_frame)
 
 TEST_F(Contexts, of_a_window_that_was_destroyed_bring_the_frame_back_in_another)
 {
-    const Fault fault("the viewer's window destroyed");
+    Fault fault("the viewer's window destroyed");
     const osg::ref_ptr<osg::GraphicsContext> lost = Camera().getGraphicsContext();
     DestroyWindow(other_->Window());
+    fault.Bites(!IsWindow(other_->Window()));
     UseWithoutDrawing();
     lost->close();
     ViewWindow window(other_->MainWindow(), Width, Height);
@@ -152,12 +160,13 @@ TEST_F(Contexts, of_viewers_in_turn_show_the_frame_in_each)
 {
     for (int i = 0; i < 3; ++i)
     {
-        const Fault fault("another viewer, number " + std::to_string(i));
+        Fault fault("another viewer, number " + std::to_string(i));
         other_->Close();
         GuiHost third(Width, Height, wall_);
         third.Start();
         EXPECT_TRUE(third.Shoot().pixels == good_.pixels);
         EXPECT_EQ(Frame().GetHwnd(), third.Window());
+        fault.Bites(Frame().GetHwnd() != other_->Window());
         third.Click(Width - 28, 25);
         EXPECT_EQ(third.TakeCodes(), Codes{GUI_CMD_CLOSE});
         third.Close();
@@ -168,10 +177,11 @@ TEST_F(Contexts, of_viewers_in_turn_show_the_frame_in_each)
 
 TEST_F(Contexts, of_a_second_init_replace_the_first_also_with_another_viewer)
 {
-    const Fault fault("Init for another viewer without a close");
+    Fault fault("Init for another viewer without a close");
     const osg::ref_ptr<osg::Group> first = Frame().GetGUINode();
     GuiHost third(Width, Height, wall_);
     third.Start();
+    fault.Bites(Frame().GetGUINode() != first);
     EXPECT_TRUE(third.Shoot().pixels == good_.pixels);
     other_->Frames(2);
     other_->Viewer().getEventQueue()->windowResize(0, 0, Width, Height);

@@ -17,6 +17,9 @@ namespace
 {
 int provoked = 0;
 int survived = 0;
+int missed = 0;
+/// Of a run of all tests.
+constexpr int LeastProvoked = 440;
 std::string present;
 
 int FailuresSoFar()
@@ -63,7 +66,12 @@ public:
     {
         testing::Test::RecordProperty("FaultsProvoked", provoked);
         testing::Test::RecordProperty("FaultsSurvived", survived);
-        std::cout << provoked << " faults provoked, " << survived << " survived" << std::endl;
+        std::cout << provoked << " faults provoked, " << survived << " survived, " << missed << " met nothing" << std::endl;
+        const testing::UnitTest& tests = *testing::UnitTest::GetInstance();
+        if (tests.test_to_run_count() == tests.total_test_count() && tests.skipped_test_count() == 0)
+        {
+            EXPECT_GE(provoked, LeastProvoked) << "faults that were seen to bite";
+        }
     }
 };
 
@@ -116,16 +124,28 @@ BTN_UNIT NewRecord(int number)
 }
 } // namespace
 
-Fault::Fault(const std::string& name) : trace_(__FILE__, __LINE__, name), failuresBefore_(FailuresSoFar())
+Fault::Fault(const std::string& name) : trace_(__FILE__, __LINE__, name), name_(name), failuresBefore_(FailuresSoFar())
 {
     std::cout << "fault: " << name << std::endl;
     present = name;
-    ++provoked;
 }
 
 Fault::~Fault()
 {
-    survived += FailuresSoFar() == failuresBefore_;
+    if (bites_)
+    {
+        ++provoked;
+        survived += FailuresSoFar() == failuresBefore_;
+    }
+    else if (mayMiss_)
+    {
+        ++missed;
+        std::cout << "met nothing: " << name_ << std::endl;
+    }
+    else
+    {
+        ADD_FAILURE() << "nothing has met the fault";
+    }
     present = "none, after " + present;
 }
 

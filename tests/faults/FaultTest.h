@@ -6,19 +6,28 @@
 #include <string>
 #include <vector>
 
-/// A fault for the life of the object: its name is told before it is provoked, so that a crash can be read off the output, and
-/// it is counted as survived when nothing has failed in the meantime. The counts are printed when the program ends.
+/// A fault for the life of the object: its name is told before it is provoked, so that a crash can be read off the output. It is
+/// counted as provoked when it was seen to bite, and as survived when nothing has failed in the meantime beside. One that was not
+/// seen to bite has tested nothing, and fails. The counts are printed when the program ends.
 class Fault
 {
 public:
     explicit Fault(const std::string& name);
     ~Fault();
+    /// @param seen whether it has done harm just now: a call that failed, a line of the log, a spoilt file that was opened. Once
+    /// is enough.
+    void Bites(bool seen) { bites_ = bites_ || seen; }
+    /// It is not known of this one whether anything meets it. While it is not seen to bite, it counts for nothing.
+    void MayMiss() { mayMiss_ = true; }
     Fault(const Fault&) = delete;
     Fault& operator=(const Fault&) = delete;
 
 private:
     testing::ScopedTrace trace_;
+    std::string name_;
     int failuresBefore_;
+    bool bites_ = false;
+    bool mayMiss_ = false;
 };
 
 /// A frame with records, rows and a scroll bar, in a view that is small, since a fault is provoked, looked at and mended many

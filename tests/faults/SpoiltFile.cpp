@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "SpoiltFile.h"
 
+#include "platform/NativePath.h"
+
 #include <widgets/Gdiplus.h>
 #include <widgets/ImageEncoder.h>
+
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include <cstring>
 
@@ -56,6 +61,22 @@ Bytes Cut(const CString& path, std::size_t parts, std::size_t of)
     return bytes;
 }
 } // namespace
+
+Openings::Openings(const CString& path) : watch_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+{
+    inotify_add_watch(watch_, NativePath(path).c_str(), IN_OPEN);
+}
+
+Openings::~Openings()
+{
+    close(watch_);
+}
+
+bool Openings::Any() const
+{
+    alignas(inotify_event) char events[4096];
+    return read(watch_, events, sizeof(events)) > 0;
+}
 
 FolderInPlace::FolderInPlace(const CString& path) : path_(path), taken_(path)
 {

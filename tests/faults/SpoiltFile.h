@@ -26,6 +26,21 @@ const std::vector<Spoiling>& AnyPicture();
 const std::vector<Spoiling>& MoreForPictures();
 const std::vector<Spoiling>& MoreForTexts();
 
+/// Whether a file has been opened since: by this process or by the one that opens its files for it. A file that is missing or in
+/// whose place there is a folder is never seen.
+class Openings
+{
+public:
+    explicit Openings(const CString& path);
+    ~Openings();
+    Openings(const Openings&) = delete;
+    Openings& operator=(const Openings&) = delete;
+    bool Any() const;
+
+private:
+    int watch_;
+};
+
 /// A folder of that name in the file's place.
 class FolderInPlace
 {

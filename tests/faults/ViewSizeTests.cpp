@@ -27,6 +27,20 @@ protected:
     {
         Host().Viewer().getCamera()->setViewport(new osg::Viewport(0, 0, width, height));
     }
+    /// The size that the frame has.
+    static std::pair<int, int> LaidOut()
+    {
+        UINT width = 0;
+        UINT height = 0;
+        Frame().GetWindowSize(width, height);
+        return {static_cast<int>(width), static_cast<int>(height)};
+    }
+    /// The size that the viewer's events tell.
+    static std::pair<int, int> WindowSize()
+    {
+        const osgGA::GUIEventAdapter& state = *Host().Viewer().getEventQueue()->getCurrentEventState();
+        return {state.getWindowWidth(), state.getWindowHeight()};
+    }
     /// A size event of the window, and a user who goes on.
     static void SizeEvent(int width, int height)
     {
@@ -61,9 +75,12 @@ TEST_F(ViewSizes, of_nothing_or_next_to_nothing_are_survived_and_the_next_size_b
     {
         for (const auto& [width, height] : {std::pair(side, side), std::pair(Width, side)})
         {
-            const Fault fault("a view of " + std::to_string(width) + " x " + std::to_string(height));
+            Fault fault("a view of " + std::to_string(width) + " x " + std::to_string(height));
             View(width, height);
             SizeEvent(width, height);
+            // Without a width or a height there is nothing to lay out.
+            fault.Bites(width > 0 && height > 0 ? LaidOut() == std::pair(width, height)
+                                                : WindowSize() == std::pair(width, height));
             EXPECT_EQ(NewLog(), Lines{});
             ExpectBack();
         }
@@ -74,9 +91,12 @@ TEST_F(ViewSizes, of_a_real_window_of_nothing_are_survived)
 {
     for (const auto& [width, height] : {std::pair(0, 0), std::pair(1, 1), std::pair(0, 300), std::pair(300, 0)})
     {
-        const Fault fault("a window of " + std::to_string(width) + " x " + std::to_string(height));
+        Fault fault("a window of " + std::to_string(width) + " x " + std::to_string(height));
         Host().Resize(width, height);
         Host().Frames(2);
+        RECT client = {};
+        GetClientRect(Host().Window(), &client);
+        fault.Bites(client.right == width && client.bottom == height);
         EXPECT_EQ(NewLog(), Lines{});
         Host().Resize(Width, Height);
         Host().MoveMouse(Width / 2, Height / 2);
@@ -88,15 +108,11 @@ TEST_F(ViewSizes, of_another_size_than_the_window_are_laid_out_by_the_viewport)
 {
     for (const auto& [width, height] : {std::pair(300, 200), std::pair(2000, 1500), std::pair(639, 221)})
     {
-        const Fault fault("a viewport of " + std::to_string(width) + " x " + std::to_string(height) +
-                          " in a window of another size");
+        Fault fault("a viewport of " + std::to_string(width) + " x " + std::to_string(height) + " in a window of another size");
         View(width + 0.9, height + 0.9);
         SizeEvent(Width, Height);
-        UINT seenWidth = 0;
-        UINT seenHeight = 0;
-        Frame().GetWindowSize(seenWidth, seenHeight);
-        EXPECT_EQ(seenWidth, static_cast<UINT>(width)) << "truncated";
-        EXPECT_EQ(seenHeight, static_cast<UINT>(height));
+        fault.Bites(WindowSize() != std::pair(width, height));
+        EXPECT_EQ(LaidOut(), std::pair(width, height)) << "truncated";
         EXPECT_EQ(Place("TavTilteCloseButtom"), Text({width - 40, 13, width - 16, 37}));
         EXPECT_EQ(NewLog(), Lines{});
         ExpectBack();
@@ -105,12 +121,13 @@ TEST_F(ViewSizes, of_another_size_than_the_window_are_laid_out_by_the_viewport)
 
 TEST_F(ViewSizes, without_a_viewport_are_the_windows)
 {
-    const Fault fault("a camera without a viewport");
+    Fault fault("a camera without a viewport");
     osg::Camera& camera = *Host().Viewer().getCamera();
     camera.setViewport(nullptr);
     Host().Viewer().getEventQueue()->windowResize(0, 0, 500, 210);
     // A frame without a viewport is nothing that OSG draws: only the event is taken.
     Host().Viewer().eventTraversal();
+    fault.Bites(LaidOut() == std::pair(500, 210));
     EXPECT_EQ(Place("TavTilteCloseButtom"), Text({500 - 40, 13, 500 - 16, 37}));
     ExpectBack();
 }

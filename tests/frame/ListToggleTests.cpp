@@ -132,6 +132,38 @@ TEST_F(ListToggleTest, survives_a_resize)
     ExpectDown();
 }
 
+TEST_F(ListToggleTest, a_hidden_list_and_an_open_panel_survive_size_events_with_and_without_full_scene)
+{
+    CeGuiMainFrame::PropertyRows rows = {{L"name", L"value"}};
+    Frame().setPropertyData(rows);
+    ClickTool();
+    Frame().OpenPropertyDlg(GuiHost::Find("TavToolButtom_4"), true);
+    for (const CSize& size : {CSize(900, 650), CSize(700, 500), CSize(ViewWidth, ViewHeight)})
+    {
+        SCOPED_TRACE(size.cx);
+        Host().Resize(size.cx, size.cy);
+        EXPECT_TRUE(Frame().IsOpenPropertyDlg());
+        EXPECT_TRUE(Visible("TavPropertyImage"));
+        EXPECT_EQ(GuiHost::RectOf("TavBackCtrlFrame").right, size.cx - 2);
+        EXPECT_EQ(ImageOf("TavToolButtom_4", "NormalImage"), "new_skin/propertyP.png/full_image");
+        EXPECT_FALSE(Frame().IsShowLeftToolBar());
+        EXPECT_FALSE(Visible(List));
+        ExpectUp();
+        Frame().OnToolBarFullScene(!Frame().IsFullScene());
+        Host().Resize(size.cx + 10, size.cy);
+        EXPECT_TRUE(Visible("TavPropertyImage"));
+        EXPECT_FALSE(Visible(List));
+        SlideIn(10, 200);
+        EXPECT_FALSE(Visible(List)) << "the mouse does not bring it back";
+        Frame().OnToolBarFullScene(false);
+    }
+    Frame().OpenPropertyDlg(nullptr, false);
+    Host().Resize(900, 650);
+    EXPECT_FALSE(Visible("TavPropertyImage")) << "a closed one stays closed";
+    EXPECT_NE(ImageOf("TavToolButtom_4", "NormalImage"), "new_skin/propertyP.png/full_image");
+    Frame().setPropertyData(rows = {});
+}
+
 TEST_F(ListToggleTest, works_in_full_scene)
 {
     Frame().OnToolBarFullScene(true);

@@ -50,6 +50,17 @@ protected:
         EXPECT_EQ(ImageOf(window, "PushedImage"), Picture(index, "_P"));
     }
 
+    /// Where the entries and the thumb are.
+    static Lines PlacesInList()
+    {
+        Lines places;
+        for (const char* window : {"a_P", "b_V", "c_P", "d_P", "e_P", "scrollbar"})
+        {
+            places.push_back(Place(window));
+        }
+        return places;
+    }
+
     /// Clicks an entry's middle in the list that has slid in.
     static std::vector<HostMessage> ClickEntry(const char* window)
     {
@@ -81,8 +92,42 @@ TEST_F(SelectionTest, from_none_only_the_new_entry_is_pushed)
     ExpectPushed("a_P", 0);
     ExpectAtRest("b_V", 1);
     ExpectAtRest("c_P", 2);
-    EXPECT_EQ(Place("a_P"), "11,63 - 137,159") << "nothing scrolls";
     EXPECT_TRUE(Host().TakeCodes().empty());
+}
+
+TEST_F(SelectionTest, choosing_by_index_scrolls_nothing_wherever_the_entry_and_the_list_are)
+{
+    ASSERT_NE(Bar(L"TavLeftCtrlFrame").thumb, nullptr) << "a list that scrolls";
+    for (const int notches : {0, -1, -1})
+    {
+        SlideIn(50, 300);
+        Host().Wheel(50, 300, notches);
+        const Lines places = PlacesInList();
+        for (const int index : {4, 0, 2, 3})
+        {
+            Frame().SetBtnIndex(index);
+            EXPECT_EQ(PlacesInList(), places) << "entry " << index;
+        }
+    }
+    EXPECT_NE(Place("a_P"), "11,63 - 137,159") << "it was scrolled in the end";
+}
+
+TEST_F(SelectionTest, stepping_to_the_first_entry_of_a_list_at_its_top_leaves_everything_in_place)
+{
+    const Lines places = PlacesInList();
+    EXPECT_EQ(places.front(), "11,63 - 137,159");
+    EXPECT_TRUE(Frame().AddBtnIndex());
+    EXPECT_EQ(Frame().GetBtnIndex(), 0);
+    EXPECT_EQ(PlacesInList(), places);
+    EXPECT_TRUE(Bar(L"TavLeftCtrlFrame").ScrollToItem(0));
+    EXPECT_EQ(PlacesInList(), places);
+    // The last one is not at the top, so that the list does scroll for it.
+    Frame().SetBtnIndex(3);
+    Frame().AddBtnIndex();
+    EXPECT_NE(PlacesInList(), places);
+    Frame().SetBtnIndex(1);
+    Frame().SubBtnIndex();
+    EXPECT_EQ(PlacesInList(), places) << "and back to the top for the first";
 }
 
 TEST_F(SelectionTest, the_look_moves_on_with_the_index)

@@ -4,6 +4,8 @@
 #include "support/NativeGl.h"
 
 #include <gui_host/CeGuiEventHandler.h>
+#include <widgets/FileImageset.h>
+#include <widgets/WindowNames.h>
 
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/Font.h>
@@ -235,17 +237,47 @@ TEST_F(DrawableTest, finish_of_a_drawable_that_was_never_initialised_touches_no_
 
 TEST_F(DrawableTest, clone_has_no_renderer_no_system_and_no_context_id)
 {
-    const osg::ref_ptr<osg::Object> copy = Drawable().clone(osg::CopyOp::SHALLOW_COPY);
+    Host().Close();
+    MakeCurrent();
+    const osg::ref_ptr<CeGuiDrawable> drawable = new CeGuiDrawable;
+    drawable->Init(41);
+    CEGUI::System::getSingleton().notifyDisplaySizeChanged(CEGUI::Sizef(ViewWidth, ViewHeight));
+    CEGUI::Window& picture = *WindowNames::Create("TavLook/StaticImage", "picture");
+    FileImagesets::Apply(picture, "Image", FileImagesets::Create(L"new_skin/topBG.png"));
+    CEGUI::System::getSingleton().getDefaultGUIContext().setRootWindow(&picture);
+    {
+        const OtherContextId its(State(), 41);
+        DrawWith(State(), *drawable);
+        ASSERT_FALSE(DrawWith(State(), *drawable) == red) << "the original shows the picture";
+    }
+    const osg::ref_ptr<osg::Object> copy = drawable->clone(osg::CopyOp::DEEP_COPY_ALL);
     auto* clone = dynamic_cast<CeGuiDrawable*>(copy.get());
     ASSERT_NE(clone, nullptr);
+    for (const unsigned int id : {0u, 41u, 77u})
     {
-        const OtherContextId other(State());
-        EXPECT_EQ(DrawWith(State(), *clone), red);
+        const OtherContextId its(State(), id);
+        for (int draw = 0; draw < 3; ++draw)
+        {
+            EXPECT_EQ(DrawWith(State(), *clone), red) << "draw " << draw << " under context " << id;
+        }
+    }
+    {
+        // A drawable looks at the errors of its own context alone, in the draw that it skips as well.
+        const OtherContextId its(State(), 41);
+        NativeGl::RaiseError();
+        DrawWith(State(), *clone);
+        EXPECT_TRUE(NativeGl::TakeError()) << "the original's context";
     }
     // It owns nothing that it could take down.
     clone->Finish();
     EXPECT_NE(CEGUI::System::getSingletonPtr(), nullptr);
-    EXPECT_FALSE(DrawWith(State(), Drawable()) == red);
+    drawable->Finish();
+    EXPECT_EQ(CEGUI::System::getSingletonPtr(), nullptr);
+    for (int draw = 0; draw < 3; ++draw)
+    {
+        const OtherContextId its(State(), 0);
+        EXPECT_EQ(DrawWith(State(), *clone), red) << "draw " << draw << " without CEGUI";
+    }
 }
 
 TEST_F(DrawableTest, clone_copies_the_osg_drawable)

@@ -112,6 +112,60 @@ TEST_F(InputBridge, left_press_leaves_the_add_button_point)
     EXPECT_EQ(Frame().GetAddBtnMousePoint(), CPoint(1, 1));
 }
 
+TEST_F(InputBridge, presses_releases_and_double_clicks_bring_their_own_position_without_a_move_before_them)
+{
+    const struct
+    {
+        const char* name;
+        UINT message;
+        WPARAM held;
+        const CEGUI::String& event;
+        CEGUI::MouseButton button;
+    } rows[] = {
+        {"left press", WM_LBUTTONDOWN, MK_LBUTTON, CEGUI::Window::EventMouseButtonDown, CEGUI::LeftButton},
+        {"left release", WM_LBUTTONUP, 0, CEGUI::Window::EventMouseButtonUp, CEGUI::LeftButton},
+        {"left double click", WM_LBUTTONDBLCLK, MK_LBUTTON, CEGUI::Window::EventMouseDoubleClick, CEGUI::LeftButton},
+        {"right press", WM_RBUTTONDOWN, MK_RBUTTON, CEGUI::Window::EventMouseButtonDown, CEGUI::RightButton},
+        {"right release", WM_RBUTTONUP, 0, CEGUI::Window::EventMouseButtonUp, CEGUI::RightButton},
+        {"right double click", WM_RBUTTONDBLCLK, MK_RBUTTON, CEGUI::Window::EventMouseDoubleClick, CEGUI::RightButton},
+        {"middle double click", WM_MBUTTONDBLCLK, MK_MBUTTON, CEGUI::Window::EventMouseDoubleClick, CEGUI::MiddleButton},
+    };
+    for (const CEGUI::String* event : {&CEGUI::Window::EventMouseButtonDown, &CEGUI::Window::EventMouseButtonUp})
+    {
+        Watch(*event);
+    }
+    Watch(CEGUI::Window::EventMouseDoubleClick, true);
+    int x = 300;
+    for (const auto& row : rows)
+    {
+        Host().MoveMouse(200, 200);
+        seen.clear();
+        Frame().EnablePopupMenu(false);
+        x += 20;
+        Host().Send(row.message, row.held, MAKELPARAM(x, 400));
+        ASSERT_EQ(seen.size(), 1u) << row.name;
+        EXPECT_EQ(seen[0].button, row.button) << row.name;
+        EXPECT_NEAR(seen[0].x, x, 1) << row.name;
+        EXPECT_NEAR(seen[0].y, 400, 1) << row.name;
+    }
+}
+
+TEST_F(InputBridge, a_button_is_clicked_without_a_move_before_the_press)
+{
+    Host().MoveMouse(400, 300);
+    Host().Press(772, 25);
+    Host().Release(772, 25);
+    EXPECT_EQ(Host().TakeCodes(), Codes{15});
+}
+
+TEST_F(InputBridge, a_release_beside_the_pressed_button_is_no_click_even_without_a_move_before_it)
+{
+    Host().MoveMouse(772, 25);
+    Host().Press(772, 25);
+    Host().Release(400, 300);
+    EXPECT_EQ(Host().TakeCodes(), Codes{});
+}
+
 TEST_F(InputBridge, middle_press_and_release_are_ignored)
 {
     Watch(CEGUI::Window::EventMouseButtonDown);

@@ -272,6 +272,9 @@ TEST_F(LifeCycle, state_of_the_frame_survives_a_resize)
     Frame().SetSceneTitle(L"Other title");
     Frame().SetSceneTitleColor(RGB(1, 2, 3));
     Frame().OnToolBarFullScene(true);
+    Frame().OpenPropertyDlg(nullptr, true);
+    Frame().OnToolBarRCList(nullptr);
+    Frame().EnableSlideOut(true);
     Host().Resize(700, 500);
     EXPECT_EQ(Frame().GetCtrlBtnInfo().size(), 2u);
     EXPECT_EQ(Frame().GetBtnIndex(), 1);
@@ -279,6 +282,13 @@ TEST_F(LifeCycle, state_of_the_frame_survives_a_resize)
     EXPECT_EQ(Frame().GetSceneTitleColor(), RGB(1, 2, 3));
     EXPECT_TRUE(Frame().IsFullScene());
     EXPECT_FALSE(Window("TavLeftBorderBackground").isVisible());
-    EXPECT_TRUE(Frame().IsShowLeftToolBar());
+    EXPECT_TRUE(Frame().IsOpenPropertyDlg());
+    EXPECT_TRUE(Window("TavPropertyImage").isEffectiveVisible());
+    EXPECT_EQ(Place("TavBackCtrlFrame"), "440,0 - 700,500");
+    EXPECT_FALSE(Frame().IsShowLeftToolBar());
+    EXPECT_FALSE(Window("TavLeftCtrlFrame").isVisible());
+    EXPECT_TRUE(Frame().IsSlideOutEnabled());
+    Frame().EnableSlideOut(false);
+    Frame().OpenPropertyDlg(nullptr, false);
     Frame().SetSceneTitleColor(0xE1C8C5);
 }

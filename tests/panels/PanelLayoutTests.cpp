@@ -189,6 +189,46 @@ TEST_F(PanelLayoutTest, opened_again_it_is_where_the_last_refresh_placed_it)
     Frame().SetWindowSize(ViewWidth, ViewHeight);
 }
 
+TEST_F(PanelLayoutTest, a_first_creation_in_a_view_as_wide_as_the_panel_makes_both_bars_in_their_size)
+{
+    // By the frame's border it lies two pixels out of the view; in full scene it fills the view's width.
+    const struct
+    {
+        bool full;
+        const char* panel;
+        const char* list;
+        int left;
+        int top;
+    } views[] = {{false, "-2,50 - 258,398", "-2,85 - 258,388", -2, 85}, {true, "0,0 - 260,400", "0,35 - 260,390", 0, 35}};
+    for (const auto& view : views)
+    {
+        SCOPED_TRACE(view.panel);
+        Frame().OpenPropertyDlg(nullptr, false);
+        Frame().OnToolBarFullScene(view.full);
+        Host().Resize(261, 400);
+        Host().Resize(260, 400);
+        MakeContextCurrent();
+        ASSERT_FALSE(HasBar(L"TavBackCtrlFrame")) << "nothing there yet";
+        Open(NumberedRows(3));
+        EXPECT_EQ(Place(PanelFrame), view.panel);
+        EXPECT_EQ(Place(PanelPicture), view.panel);
+        EXPECT_EQ(Place(ListFrame), view.list);
+        EXPECT_EQ(Place(ListPicture), view.list);
+        const PictureFile row = DrawnRow(L"name 0", L"value 0");
+        const PictureFile header = DrawnHeader(L"显示属性");
+        const Screenshot shot = Host().Shoot();
+        int differing = 0;
+        // The left border shines through the panel's first two pixels in the view.
+        for (int x = view.full ? 0 : 2; x < view.left + 260; ++x)
+        {
+            differing += !LooksLike(shot.At(x, view.top + 12), Blend(row.Argb(x - view.left, 12), Background()), 4);
+            differing += !LooksLike(shot.At(x, view.top - 17), Blend(header.Argb(x - view.left, 18), Background()), 4);
+        }
+        EXPECT_EQ(differing, 0);
+    }
+    Frame().OnToolBarFullScene(false);
+}
+
 TEST_F(PanelLayoutTest, too_small_a_view_changes_nothing)
 {
     Open(NumberedRows(3));

@@ -348,8 +348,13 @@ std::string DoSomething(SoakHost& soak, Dice& dice)
         number -= chosen->weight;
         ++chosen;
     }
-    const Text particulars = chosen->act(soak, dice);
-    return chosen->name + particulars + Codes(soak.CarryOut());
+    return DoKind(soak, dice, static_cast<int>(chosen - actions));
+}
+
+std::string DoKind(SoakHost& soak, Dice& dice, int kind)
+{
+    const Text particulars = actions[kind].act(soak, dice);
+    return actions[kind].name + particulars + Codes(soak.CarryOut());
 }
 
 std::string StartAgain(SoakHost& soak, Dice& dice)

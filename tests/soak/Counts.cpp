@@ -17,18 +17,39 @@ struct Column
 {
     const char* name;
     std::size_t Counts::*value;
-    std::size_t allowed; ///< by which it may be higher at last
 };
-
-/// Wine keeps fonts and brushes of its own menus and dialogs, and makes them when they are first drawn.
-constexpr std::size_t SystemsOwnGdi = 12;
 
 const Column columns[] = {
-    {"GDI", &Counts::gdi, SystemsOwnGdi},  {"user", &Counts::user, 0},
-    {"open files", &Counts::openFiles, 0}, {"handles", &Counts::handles, 0},
-    {"windows", &Counts::windows, 0},      {"images", &Counts::images, 0},
-    {"textures", &Counts::textures, 0},    {"disk files", &Counts::diskFiles, 0},
+    {"GDI", &Counts::gdi},
+    {"user", &Counts::user},
+    {"open files", &Counts::openFiles},
+    {"handles", &Counts::handles},
+    {"windows", &Counts::windows},
+    {"images", &Counts::images},
+    {"textures", &Counts::textures},
+    {"disk files", &Counts::diskFiles},
 };
+
+/// The middle of the slopes between samples of one script, a round.
+double Slope(const std::vector<Sample>& samples, std::size_t Counts::*value)
+{
+    std::vector<double> slopes;
+    for (std::size_t later = 0; later < samples.size(); ++later)
+    {
+        for (std::size_t earlier = 0; earlier < later; ++earlier)
+        {
+            if (samples[earlier].script == samples[later].script)
+            {
+                const auto count = [&](std::size_t i) { return static_cast<double>(samples[i].counts.*value); };
+                slopes.push_back((count(later) - count(earlier)) / static_cast<double>(later - earlier));
+            }
+        }
+    }
+    // Of two in the middle the smaller one: half of the slopes are no growth yet.
+    const auto middle = slopes.begin() + static_cast<std::ptrdiff_t>((slopes.size() - 1) / 2);
+    std::nth_element(slopes.begin(), middle, slopes.end());
+    return *middle;
+}
 
 std::size_t FilesBelow(const CString& folder)
 {
@@ -107,25 +128,43 @@ Counts TakeCounts(GuiHost& host)
     return counts;
 }
 
-std::vector<std::string> Growth(const std::vector<Counts>& times, std::size_t memoryAllowed)
+std::vector<std::string> Growth(const std::vector<Sample>& samples, double memoryAllowed)
 {
     std::vector<std::string> growth;
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    const auto look = [&](const char* name, std::size_t Counts::*value, std::size_t allowed)
+    const auto look = [&](const char* name, std::size_t Counts::*value, double allowed)
     {
-        const auto less = [value](const Counts& a, const Counts& b) { return a.*value < b.*value; };
-        const std::size_t before = (*std::max_element(times.begin(), middle, less)).*value;
-        const std::size_t last = times.back().*value;
-        if (last > before + allowed)
+        const double slope = Slope(samples, value);
+        if (slope > allowed)
         {
-            growth.push_back(std::string(name) + ": never over " + std::to_string(before) + " at first, " + std::to_string(last) +
-                             " at last");
+            char text[64];
+            std::snprintf(text, sizeof(text), "%s: %g more a round", name, slope);
+            growth.emplace_back(text);
         }
     };
     for (const Column& column : columns)
     {
-        look(column.name, column.value, column.allowed);
+        look(column.name, column.value, 0);
     }
     look("memory", &Counts::memory, memoryAllowed);
     return growth;
+}
+
+std::vector<std::vector<Sample>> WithLeaks(const std::vector<Sample>& samples, double objects, double memory)
+{
+    const auto leaking = [&](std::size_t Counts::*value, double left)
+    {
+        std::vector<Sample> leaky = samples;
+        for (std::size_t i = 0; i < leaky.size(); ++i)
+        {
+            leaky[i].counts.*value += static_cast<std::size_t>(left * static_cast<double>(i));
+        }
+        return leaky;
+    };
+    std::vector<std::vector<Sample>> all;
+    for (const Column& column : columns)
+    {
+        all.push_back(leaking(column.value, objects));
+    }
+    all.push_back(leaking(&Counts::memory, memory));
+    return all;
 }

@@ -26,7 +26,21 @@ struct Counts
 /// With the interface running.
 Counts TakeCounts(GuiHost& host);
 
-/// The counts that are higher at last than at any time of the first half, each as a line.
-/// @param times after the warm-up, in order; at least two
-/// @param memoryAllowed bytes by which memory may be higher
-std::vector<std::string> Growth(const std::vector<Counts>& times, std::size_t memoryAllowed);
+/// What there was after a round.
+struct Sample
+{
+    int script; ///< which of the rounds' scripts it was
+    Counts counts;
+};
+
+/// The kinds of counts that grow from round to round, each as a line. What a round leaves behind is compared with what the same
+/// script has left at other times, and the middle of all these slopes is taken: one round that is out of line, or what comes once
+/// and stays, changes nothing. Of objects none may stay behind.
+/// @param samples after the warm-up, one for each round, in order; every script at least twice
+/// @param memoryAllowed bytes a round
+std::vector<std::string> Growth(const std::vector<Sample>& samples, double memoryAllowed);
+
+/// The samples as they would be if each round left so much more behind, for each kind of count by itself, memory last.
+/// @param objects a round
+/// @param memory bytes a round
+std::vector<std::vector<Sample>> WithLeaks(const std::vector<Sample>& samples, double objects, double memory);

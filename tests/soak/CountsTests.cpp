@@ -6,63 +6,113 @@
 
 #include <platform/ProcessCounts.h>
 
+#include <iterator>
+
 using Lines = std::vector<std::string>;
 
 namespace
 {
-std::vector<Counts> Memories(const std::vector<std::size_t>& values)
+constexpr int Scripts = 5;
+
+/// Samples of one kind of count, the scripts in turn.
+std::vector<Sample> Samples(std::size_t Counts::*column, const std::vector<std::size_t>& values)
 {
-    std::vector<Counts> times;
+    std::vector<Sample> samples;
     for (const std::size_t value : values)
     {
-        times.emplace_back();
-        times.back().memory = value;
+        samples.push_back({static_cast<int>(samples.size()) % Scripts, Counts()});
+        samples.back().counts.*column = value;
     }
-    return times;
+    return samples;
 }
 
-std::vector<Counts> Windows(const std::vector<std::size_t>& values)
+std::vector<Sample> Windows(const std::vector<std::size_t>& values)
 {
-    std::vector<Counts> times;
-    for (const std::size_t value : values)
+    return Samples(&Counts::windows, values);
+}
+
+/// So many rounds, of which each script leaves its own number.
+std::vector<std::size_t> Steady(int rounds)
+{
+    std::vector<std::size_t> values;
+    for (int i = 0; i < rounds; ++i)
     {
-        times.emplace_back();
-        times.back().windows = value;
+        values.push_back(static_cast<std::size_t>(100 + 7 * (i % Scripts)));
     }
-    return times;
+    return values;
 }
 } // namespace
 
-TEST(SoakCounts, what_stays_or_goes_up_and_down_is_no_growth)
+TEST(SoakCounts, scripts_that_leave_different_numbers_again_and_again_are_no_growth)
 {
-    EXPECT_EQ(Growth(Windows({5, 5}), 0), Lines{});
-    EXPECT_EQ(Growth(Windows({5, 7, 6, 7}), 0), Lines{});
-    EXPECT_EQ(Growth(Windows({9, 5, 5, 5}), 0), Lines{});
+    EXPECT_EQ(Growth(Windows(Steady(20)), 0), Lines{});
 }
 
-TEST(SoakCounts, one_more_at_last_is_growth)
+TEST(SoakCounts, what_goes_up_and_down_is_no_growth)
 {
-    EXPECT_EQ(Growth(Windows({5, 6}), 0), Lines{"windows: never over 5 at first, 6 at last"});
-    EXPECT_EQ(Growth(Windows({5, 5, 6, 6, 7, 7}), 0), Lines{"windows: never over 6 at first, 7 at last"});
+    std::vector<std::size_t> values = Steady(20);
+    values[7] += 9;
+    values[13] -= 5;
+    values[19] += 30;
+    EXPECT_EQ(Growth(Windows(values), 0), Lines{});
 }
 
-TEST(SoakCounts, every_column_is_looked_at)
+TEST(SoakCounts, what_comes_once_after_the_first_turn_and_stays_is_no_growth)
 {
-    Counts less;
-    Counts more;
-    for (std::size_t Counts::*column : {&Counts::gdi, &Counts::user, &Counts::openFiles, &Counts::handles, &Counts::windows,
-                                        &Counts::images, &Counts::textures, &Counts::diskFiles, &Counts::memory})
+    std::vector<std::size_t> values = Steady(20);
+    for (std::size_t i = Scripts; i < values.size(); ++i)
     {
-        less.*column = 100;
-        more.*column = 200;
+        values[i] += 3;
     }
-    EXPECT_EQ(Growth({less, more}, 0).size(), 9u);
+    EXPECT_EQ(Growth(Windows(values), 0), Lines{});
 }
 
-TEST(SoakCounts, memory_has_its_allowance)
+TEST(SoakCounts, one_object_in_ten_rounds_is_growth_whenever_it_comes)
 {
-    EXPECT_EQ(Growth(Memories({1000, 1500}), 500), Lines{});
-    EXPECT_EQ(Growth(Memories({1000, 1501}), 500), Lines{"memory: never over 1000 at first, 1501 at last"});
+    for (std::size_t first = 0; first < 10; ++first)
+    {
+        std::vector<std::size_t> values = Steady(20);
+        for (std::size_t i = 0; i < values.size(); ++i)
+        {
+            values[i] += (i + first) / 10;
+        }
+        EXPECT_EQ(Growth(Windows(values), 0).size(), 1u) << first;
+    }
+}
+
+TEST(SoakCounts, growth_names_what_grows_and_by_how_much)
+{
+    std::vector<std::size_t> values = Steady(20);
+    for (std::size_t i = 0; i < values.size(); ++i)
+    {
+        values[i] += 2 * i;
+    }
+    EXPECT_EQ(Growth(Windows(values), 0), Lines{"windows: 2 more a round"});
+}
+
+TEST(SoakCounts, memory_has_its_allowance_and_objects_have_none)
+{
+    std::vector<std::size_t> values = Steady(20);
+    for (std::size_t i = 0; i < values.size(); ++i)
+    {
+        values[i] += 500 * i;
+    }
+    EXPECT_EQ(Growth(Samples(&Counts::memory, values), 500), Lines{});
+    EXPECT_EQ(Growth(Samples(&Counts::memory, values), 499), Lines{"memory: 500 more a round"});
+    EXPECT_EQ(Growth(Samples(&Counts::gdi, values), 500), Lines{"GDI: 500 more a round"});
+}
+
+TEST(SoakCounts, a_leak_of_each_kind_is_found_by_itself)
+{
+    const std::vector<std::vector<Sample>> leaks = WithLeaks(Windows(Steady(20)), 0.1, 1000);
+    const char* const names[] = {"GDI", "user", "open files", "handles", "windows", "images", "textures", "disk files", "memory"};
+    ASSERT_EQ(leaks.size(), std::size(names));
+    for (std::size_t i = 0; i < leaks.size(); ++i)
+    {
+        const Lines growth = Growth(leaks[i], 999);
+        ASSERT_EQ(growth.size(), 1u) << names[i];
+        EXPECT_EQ(growth[0].find(names[i]), 0u) << growth[0];
+    }
 }
 
 TEST(SoakCounts, memory_that_is_kept_is_counted)

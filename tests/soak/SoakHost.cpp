@@ -314,6 +314,7 @@ void SoakHost::GoToBase()
     Frame().ClearTitleSet();
     ShowRows(BaseRows);
     UseViews(BaseViews);
+    viewsMade_ = 0;
     host_.Resize(BaseSize.cx, BaseSize.cy);
     Rebuild();
     user_.MoveTo(CPoint(402, 300));

@@ -7,24 +7,37 @@
 
 #include <NxConfig/ParamConfig.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
 
 namespace
 {
 constexpr std::uint64_t UsualSeed = 20240607;
-constexpr int UsualRounds = 8;
-constexpr int ActionsPerRound = 40;
+/// Rounds follow scripts of their own, each drawn from the seed, one after the other, and then the same ones again: what a script
+/// leaves behind each time is then no chance.
+constexpr int UsualScripts = 5;
+constexpr int ScriptsPerMinute = 4;
+/// Beside some of each kind.
+constexpr int ActionsByChance = 8;
 constexpr int ActionsOfARepeat = 30;
-/// In which what is kept for good comes: fonts, shaders, the widest list.
-constexpr int WarmUpRounds = 3;
-/// Of every so many rounds one starts the interface again, the others have to hold without it.
-constexpr int RoundsPerStart = 3;
-constexpr int StartsPerRound = 3;
-/// Heaps are not as tidy as handles.
-constexpr std::size_t MemoryAllowed = 512 * 1024;
+/// How often all scripts are done before anything is counted: fonts, shaders, the widest list and the like are made then, which
+/// are kept for good.
+constexpr int WarmUpTurns = 2;
+constexpr int UsualTurns = 4;
+constexpr std::size_t LeastSamples = 20;
+/// The first script starts the interface again, the others have to hold without it.
+constexpr int StartsPerTurn = 2;
+/// Bytes that an action may leave behind: heaps are not as tidy as handles.
+constexpr double MemoryAllowed = 512;
+/// Leaks that a run has to be able to find.
+constexpr double ObjectsPlanted = 0.1; ///< a round
+constexpr double MemoryPlanted = 1024; ///< bytes an action
 
 std::uint64_t NumberFrom(const char* variable, std::uint64_t otherwise)
 {
@@ -37,42 +50,78 @@ std::uint64_t Seed()
     return NumberFrom("NX_SOAK_SEED", UsualSeed);
 }
 
-/// Whether another round is due.
-class Rounds
+/// What is to be done in a run.
+class Plan
 {
 public:
-    bool More()
+    int Scripts() const { return minutes_ ? std::max(UsualScripts, ScriptsPerMinute * minutes_) : UsualScripts; }
+    /// Whether another turn of all scripts is due.
+    bool MoreTurns(int done) const
     {
-        const bool more =
-            minutes_ ? Clock::now() - start_ < std::chrono::minutes(minutes_) || done_ <= 2 * WarmUpRounds : done_ < rounds_;
-        ++done_;
-        return more;
+        return minutes_ ? Clock::now() - start_ < std::chrono::minutes(minutes_) || done < WarmUpTurns + UsualTurns
+                        : done < WarmUpTurns + UsualTurns;
     }
-    int Done() const { return done_; }
 
 private:
     using Clock = std::chrono::steady_clock;
-    const std::uint64_t minutes_ = NumberFrom("NX_SOAK_MINUTES", 0);
-    const int rounds_ = static_cast<int>(NumberFrom("NX_SOAK_ROUNDS", UsualRounds));
+    const int minutes_ = static_cast<int>(NumberFrom("NX_SOAK_MINUTES", 0));
     const Clock::time_point start_ = Clock::now();
-    int done_ = 0;
+};
+
+/// Leaves behind what a run by hand is told to, for the sake of seeing that it is found.
+class Leaks
+{
+public:
+    void AfterAction()
+    {
+        if (what_ == "memory")
+        {
+            kept_.emplace_back(static_cast<std::size_t>(MemoryPlanted), 'x');
+        }
+    }
+    void AfterRound()
+    {
+        if (what_ == "object" && ++rounds_ % static_cast<int>(1 / ObjectsPlanted) == 0)
+        {
+            CreateSolidBrush(RGB(1, 2, 3));
+        }
+    }
+
+private:
+    const std::string what_ = std::getenv("NX_SOAK_LEAK") ? std::getenv("NX_SOAK_LEAK") : "";
+    std::vector<std::string> kept_;
+    int rounds_ = 0;
 };
 
 /// @param log gets a line before the next begins, so that the last one tells what a crash came of
-void DoRound(SoakHost& soak, Dice& dice, int round, std::ostream& log)
+/// @return how many actions it had
+int DoRound(SoakHost& soak, int script, Leaks& leaks, std::ostream& log)
 {
-    for (int i = 0; i < ActionsPerRound; ++i)
+    Dice dice(Seed() + static_cast<std::uint64_t>(script));
+    int done = 0;
+    const auto act = [&](const std::function<std::string()>& action)
     {
-        log << round << "." << i << " " << std::flush;
-        log << DoSomething(soak, dice) << std::endl;
-    }
-    for (int i = 0; round % RoundsPerStart == 0 && i < StartsPerRound; ++i)
+        log << script << "." << done++ << " " << std::flush;
+        log << action() << std::endl;
+        leaks.AfterAction();
+    };
+    // In every turn of the scripts each kind comes at least once.
+    for (int kind = script % UsualScripts; kind < ActionCount(); kind += UsualScripts)
     {
-        log << round << "." << ActionsPerRound + i << " " << std::flush;
-        log << StartAgain(soak, dice) << std::endl;
+        act([&] { return DoKind(soak, dice, kind); });
     }
-    log << round << " back to the start" << std::endl;
+    for (int i = 0; i < ActionsByChance; ++i)
+    {
+        act([&] { return DoSomething(soak, dice); });
+    }
+    for (int i = 0; script == 0 && i < StartsPerTurn; ++i)
+    {
+        act([&] { return StartAgain(soak, dice); });
+    }
+    log << script << " back to the start" << std::endl;
     soak.GoToBase();
+    leaks.AfterRound();
+    return done;
 }
 } // namespace
 
@@ -93,24 +142,38 @@ TEST(Soak, the_same_seed_does_the_same)
 
 TEST(Soak, nothing_is_left_behind)
 {
-    std::printf("seed %llu, %d actions a round; soak.log has them one by one\n", static_cast<unsigned long long>(Seed()),
-                ActionsPerRound);
+    const Plan plan;
+    std::printf("seed %llu, %d scripts; soak.log has the actions one by one\n", static_cast<unsigned long long>(Seed()),
+                plan.Scripts());
     std::printf("round%s\n", Counts::Head().c_str());
     SoakHost soak;
-    Dice dice(Seed());
+    Leaks leaks;
     std::ofstream log("soak.log");
-    std::vector<Counts> times;
-    for (Rounds rounds; rounds.More();)
+    std::vector<Sample> samples;
+    int rounds = 0;
+    int actions = 0;
+    for (int turn = 0; plan.MoreTurns(turn); ++turn)
     {
-        DoRound(soak, dice, rounds.Done(), log);
-        const Counts counts = TakeCounts(soak.Host());
-        std::printf("%5d%s%s\n", rounds.Done(), counts.Line().c_str(), rounds.Done() <= WarmUpRounds ? "  warm-up" : "");
-        std::fflush(stdout);
-        if (rounds.Done() > WarmUpRounds)
+        for (int script = 0; script < plan.Scripts(); ++script)
         {
-            times.push_back(counts);
+            const int done = DoRound(soak, script, leaks, log);
+            const Counts counts = TakeCounts(soak.Host());
+            std::printf("%5d%s%s\n", ++rounds, counts.Line().c_str(), turn < WarmUpTurns ? "  warm-up" : "");
+            std::fflush(stdout);
+            if (turn >= WarmUpTurns)
+            {
+                samples.push_back({script, counts});
+                actions += done;
+            }
         }
     }
-    ASSERT_GE(times.size(), 4u) << "too few rounds to tell";
-    EXPECT_EQ(Growth(times, MemoryAllowed), std::vector<std::string>{});
+    ASSERT_GE(samples.size(), LeastSamples) << "too few rounds to tell";
+    const double actionsPerRound = actions / static_cast<double>(samples.size());
+    const double allowed = MemoryAllowed * actionsPerRound;
+    EXPECT_EQ(Growth(samples, allowed), std::vector<std::string>{});
+    // As unsteady as these counts were, this run would have found a leak of each kind.
+    for (const std::vector<Sample>& leaking : WithLeaks(samples, ObjectsPlanted, MemoryPlanted * actionsPerRound))
+    {
+        EXPECT_FALSE(Growth(leaking, allowed).empty());
+    }
 }

@@ -17,8 +17,19 @@ NATIVE_GL(void, glGenTextures, (int count, unsigned int* names));
 NATIVE_GL(unsigned int, glGetError, ());
 NATIVE_GL(void, glGetIntegerv, (unsigned int name, int* values));
 NATIVE_GL(const unsigned char*, glGetString, (unsigned int name));
+NATIVE_GL(void, glGetVertexAttribiv, (unsigned int index, unsigned int name, int* values));
 NATIVE_GL(unsigned char, glIsTexture, (unsigned int name));
 NATIVE_GL(void, glReadPixels, (int x, int y, int width, int height, unsigned int format, unsigned int type, void* pixels));
+
+namespace
+{
+int Integer(unsigned int name)
+{
+    int value = -1;
+    native_glGetIntegerv(name, &value);
+    return value;
+}
+} // namespace
 
 namespace NativeGl
 {
@@ -57,9 +68,34 @@ int LiveTextures()
 
 int BoundSampler()
 {
-    int sampler = -1;
-    native_glGetIntegerv(0x8919 /* GL_SAMPLER_BINDING */, &sampler);
-    return sampler;
+    return Integer(0x8919 /* GL_SAMPLER_BINDING */);
+}
+
+int ActiveTextureUnit()
+{
+    return Integer(0x84E0 /* GL_ACTIVE_TEXTURE */) - 0x84C0 /* GL_TEXTURE0 */;
+}
+
+int ActiveClientTextureUnit()
+{
+    return Integer(0x84E1 /* GL_CLIENT_ACTIVE_TEXTURE */) - 0x84C0 /* GL_TEXTURE0 */;
+}
+
+int BoundVertexBuffer()
+{
+    return Integer(0x8894 /* GL_ARRAY_BUFFER_BINDING */);
+}
+
+int BoundElementBuffer()
+{
+    return Integer(0x8895 /* GL_ELEMENT_ARRAY_BUFFER_BINDING */);
+}
+
+bool IsGenericArrayEnabled(unsigned int index)
+{
+    int enabled = 0;
+    native_glGetVertexAttribiv(index, 0x8622 /* GL_VERTEX_ATTRIB_ARRAY_ENABLED */, &enabled);
+    return enabled != 0;
 }
 
 void RaiseError()

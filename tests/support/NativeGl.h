@@ -16,6 +16,12 @@ Pixel ReadPixel(int x, int y);
 int LiveTextures();
 /// The sampler object of the active texture unit, 0 for none.
 int BoundSampler();
+int ActiveTextureUnit();
+int ActiveClientTextureUnit();
+/// The buffers that vertices and indices are read from, 0 for the program's own memory.
+int BoundVertexBuffer();
+int BoundElementBuffer();
+bool IsGenericArrayEnabled(unsigned int index);
 /// Leaves the error "invalid enumerant" waiting.
 void RaiseError();
 /// Takes the error that waits; false when there is none.

@@ -128,7 +128,21 @@ TEST_F(ToolBarScroll, slots_say_whether_they_used_the_event)
 
 TEST_F(ToolBarScroll, first_item_of_a_list_at_the_top_stays)
 {
-    EXPECT_TRUE(list_->ScrollToItem(0));
+    const auto places = [this]
+    {
+        std::vector<float> y = {ThumbY()};
+        for (std::size_t i = 0; i < 6; ++i)
+        {
+            y.push_back(ItemY(i));
+        }
+        return y;
+    };
+    const std::vector<float> before = places();
+    for (int i = 0; i < 3; ++i)
+    {
+        EXPECT_TRUE(list_->ScrollToItem(0));
+        EXPECT_EQ(places(), before) << "not by a rounding either";
+    }
     ExpectScrolled(0);
 }
 
