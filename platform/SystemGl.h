@@ -18,7 +18,8 @@ struct Vertex
 void LoadMatrix(unsigned int stack, const float* matrix);
 void UseStack(unsigned int stack);
 /// All draws from now on take these.
-void UseVertices(const Vertex* vertices);
+/// @param vertices of type `Vertex`; an offset while a buffer object is bound
+void UseVertices(const void* vertices);
 /// Enables the arrays that `UseVertices` sets, for texture coordinates those of the active client unit.
 void EnableVertexArrays();
 void DisableClientArray(unsigned int array);

@@ -5,6 +5,8 @@
 
 #include <GL/gl.h>
 
+#include <cstddef>
+
 namespace
 {
 /// Contexts may have functions of their own, so it is looked up at each call; these are called seldom.
@@ -28,11 +30,12 @@ void UseStack(unsigned int stack)
     glMatrixMode(stack);
 }
 
-void UseVertices(const Vertex* vertices)
+void UseVertices(const void* vertices)
 {
-    glTexCoordPointer(2, GL_FLOAT, sizeof(Vertex), vertices->texture);
-    glColorPointer(4, GL_FLOAT, sizeof(Vertex), vertices->color);
-    glVertexPointer(3, GL_FLOAT, sizeof(Vertex), vertices->position);
+    const auto* first = static_cast<const char*>(vertices);
+    glTexCoordPointer(2, GL_FLOAT, sizeof(Vertex), first + offsetof(Vertex, texture));
+    glColorPointer(4, GL_FLOAT, sizeof(Vertex), first + offsetof(Vertex, color));
+    glVertexPointer(3, GL_FLOAT, sizeof(Vertex), first + offsetof(Vertex, position));
 }
 
 void EnableVertexArrays()

@@ -3,12 +3,15 @@
 // under names of their own.
 #include "../SystemGl.h"
 
+#include <cstddef>
+
 extern "C"
 {
     void native_glBindBuffer(unsigned int target, unsigned int buffer) __asm__("glBindBuffer");
     void native_glBindProgramPipeline(unsigned int pipeline) __asm__("glBindProgramPipeline");
     void native_glBindTexture(unsigned int target, unsigned int texture) __asm__("glBindTexture");
-    void native_glColorMask(unsigned char red, unsigned char green, unsigned char blue, unsigned char alpha) __asm__("glColorMask");
+    void native_glColorMask(unsigned char red, unsigned char green, unsigned char blue,
+                            unsigned char alpha) __asm__("glColorMask");
     void native_glColorPointer(int size, unsigned int type, int stride, const void* first) __asm__("glColorPointer");
     void native_glDisable(unsigned int capability) __asm__("glDisable");
     void native_glDisableClientState(unsigned int array) __asm__("glDisableClientState");
@@ -64,11 +67,12 @@ void UseStack(unsigned int stack)
     native_glMatrixMode(stack);
 }
 
-void UseVertices(const Vertex* vertices)
+void UseVertices(const void* vertices)
 {
-    native_glTexCoordPointer(2, Float, sizeof(Vertex), vertices->texture);
-    native_glColorPointer(4, Float, sizeof(Vertex), vertices->color);
-    native_glVertexPointer(3, Float, sizeof(Vertex), vertices->position);
+    const auto* first = static_cast<const char*>(vertices);
+    native_glTexCoordPointer(2, Float, sizeof(Vertex), first + offsetof(Vertex, texture));
+    native_glColorPointer(4, Float, sizeof(Vertex), first + offsetof(Vertex, color));
+    native_glVertexPointer(3, Float, sizeof(Vertex), first + offsetof(Vertex, position));
 }
 
 void EnableVertexArrays()

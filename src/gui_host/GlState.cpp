@@ -4,6 +4,7 @@
 #include <osg/GLExtensions>
 #include <osg/State>
 #include <osg/Uniform>
+#include <osg/VertexArrayState>
 
 #include <algorithm>
 #include <cstddef>
@@ -45,6 +46,7 @@ constexpr unsigned int SampleCoverage = 0x80A0;
 constexpr unsigned int SampleMask = 0x8E51;
 constexpr unsigned int SamplerBinding = 0x8919;
 constexpr unsigned int SecondaryColorArray = 0x845E;
+constexpr unsigned int StreamDraw = 0x88E0;
 constexpr unsigned int Texture0 = 0x84C0;
 constexpr unsigned int Texture3D = 0x806F;
 constexpr unsigned int TextureCubeMap = 0x8513;
@@ -63,6 +65,11 @@ GlState::~GlState()
     {
         extensions_->glDeleteSamplers(1, &sampler_);
     }
+    if (ownArray_ != 0)
+    {
+        extensions_->glDeleteVertexArrays(1, &ownArray_);
+        extensions_->glDeleteBuffers(1, &ownBuffer_);
+    }
 }
 
 void GlState::LearnContext(osg::State& state)
@@ -79,6 +86,7 @@ void GlState::LearnContext(osg::State& state)
     { return osg::isGLExtensionOrVersionSupported(state.getContextID(), extension, since); };
 
     hasVertexArrayObjects_ = has("GL_ARB_vertex_array_object", 3.0f);
+    ownArray_ = 0;
     sampler_ = 0;
     hasSamplers_ = has("GL_ARB_sampler_objects", 3.3f);
     if (hasSamplers_)
@@ -101,9 +109,9 @@ void GlState::LearnContext(osg::State& state)
     {
         want(name, true);
     }
-    for (const unsigned int name : {GL_ALPHA_TEST, GL_COLOR_LOGIC_OP, GL_CULL_FACE, GL_DEPTH_TEST, GL_FOG, GL_LIGHTING,
-                                    GL_POLYGON_SMOOTH, GL_POLYGON_STIPPLE, GL_STENCIL_TEST, GL_TEXTURE_GEN_S, GL_TEXTURE_GEN_T,
-                                    GL_TEXTURE_GEN_R, GL_TEXTURE_GEN_Q})
+    for (const unsigned int name :
+         {GL_ALPHA_TEST, GL_COLOR_LOGIC_OP, GL_CULL_FACE, GL_DEPTH_TEST, GL_FOG, GL_LIGHTING, GL_POLYGON_SMOOTH,
+          GL_POLYGON_STIPPLE, GL_STENCIL_TEST, GL_TEXTURE_GEN_S, GL_TEXTURE_GEN_T, GL_TEXTURE_GEN_R, GL_TEXTURE_GEN_Q})
     {
         want(name, false);
     }
@@ -155,6 +163,12 @@ void GlState::Begin(osg::State& state)
     clientUnit_ = SystemGl::Get(ClientActiveTexture);
     trackedUnit_ = state.getActiveTextureUnit();
     trackedClientUnit_ = state.getClientActiveTextureUnit();
+    vertexArray_ = hasVertexArrayObjects_ ? SystemGl::Get(VertexArrayBinding) : 0;
+    const osg::VertexArrayState* tracked = state.getCurrentVertexArrayState();
+    if (tracked && hasVertexArrayObjects_ && static_cast<int>(tracked->getVertexArrayObject()) != vertexArray_)
+    {
+        extensions_->glBindVertexArray(tracked->getVertexArrayObject());
+    }
 }
 
 void GlState::Set()
@@ -178,6 +192,8 @@ void GlState::Set()
     SystemGl::Get(GL_PROJECTION_MATRIX, projection_);
     SystemGl::Get(GL_TEXTURE_MATRIX, texture_);
     values_.matrixMode = SystemGl::Get(GL_MATRIX_MODE);
+    // Not every driver saves this one with the others.
+    colorSum_ = SystemGl::IsEnabled(ColorSum);
     pushed_ = SystemGl::Get(GL_ATTRIB_STACK_DEPTH) < attributeDepth_;
     if (pushed_)
     {
@@ -211,19 +227,43 @@ void GlState::Set()
 void GlState::SetArrays()
 {
     arrayBuffer_ = SystemGl::Get(ArrayBufferBinding);
-    if (hasVertexArrayObjects_)
-    {
-        // Arrays in memory are allowed in OpenGL's own vertex-array object alone.
-        vertexArray_ = SystemGl::Get(VertexArrayBinding);
-        extensions_->glBindVertexArray(0);
-    }
     clientPushed_ = SystemGl::Get(GL_CLIENT_ATTRIB_STACK_DEPTH) < clientDepth_;
-    if (clientPushed_)
+    if (UsesOwnArray())
     {
-        SystemGl::PushClientState();
+        // The arrays that are in use cannot be saved, so others are used, which have to lie in a buffer object.
+        if (ownArray_ == 0)
+        {
+            extensions_->glGenVertexArrays(1, &ownArray_);
+            extensions_->glGenBuffers(1, &ownBuffer_);
+        }
+        extensions_->glBindVertexArray(ownArray_);
     }
-    // A buffer object left bound would turn the arrays into offsets.
-    extensions_->glBindBuffer(ArrayBuffer, 0);
+    else
+    {
+        if (hasVertexArrayObjects_)
+        {
+            // Arrays in memory are allowed in OpenGL's own vertex-array object alone.
+            extensions_->glBindVertexArray(0);
+        }
+        if (clientPushed_)
+        {
+            SystemGl::PushClientState();
+        }
+        DisableFoundArrays();
+    }
+    // A buffer object left bound would turn arrays in memory into offsets.
+    extensions_->glBindBuffer(ArrayBuffer, UsesOwnArray() ? ownBuffer_ : 0);
+    SystemGl::EnableVertexArrays();
+    if (state_->getUseVertexAttributeAliasing())
+    {
+        extensions_->glEnableVertexAttribArray(state_->getVertexAlias()._location);
+        extensions_->glEnableVertexAttribArray(state_->getColorAlias()._location);
+        extensions_->glEnableVertexAttribArray(state_->getTexCoordAliasList().front()._location);
+    }
+}
+
+void GlState::DisableFoundArrays()
+{
     for (const unsigned int array : {static_cast<unsigned int>(GL_NORMAL_ARRAY), static_cast<unsigned int>(GL_INDEX_ARRAY),
                                      static_cast<unsigned int>(GL_EDGE_FLAG_ARRAY), SecondaryColorArray, FogCoordinateArray})
     {
@@ -238,13 +278,6 @@ void GlState::SetArrays()
     for (unsigned int attribute = 0; attribute < vertexAttributes_; ++attribute)
     {
         extensions_->glDisableVertexAttribArray(attribute);
-    }
-    SystemGl::EnableVertexArrays();
-    if (state_->getUseVertexAttributeAliasing())
-    {
-        extensions_->glEnableVertexAttribArray(state_->getVertexAlias()._location);
-        extensions_->glEnableVertexAttribArray(state_->getColorAlias()._location);
-        extensions_->glEnableVertexAttribArray(state_->getTexCoordAliasList().front()._location);
     }
 }
 
@@ -342,10 +375,6 @@ void GlState::RestoreArrays()
     {
         SystemGl::PopClientState();
     }
-    if (hasVertexArrayObjects_)
-    {
-        extensions_->glBindVertexArray(static_cast<unsigned int>(vertexArray_));
-    }
     extensions_->glBindBuffer(ArrayBuffer, static_cast<unsigned int>(arrayBuffer_));
 }
 
@@ -384,6 +413,7 @@ void GlState::End()
         {
             RestoreValues();
         }
+        SystemGl::Enable(ColorSum, colorSum_);
         extensions_->glActiveTexture(Texture0);
         if (hasSamplers_)
         {
@@ -402,6 +432,10 @@ void GlState::End()
             state.updateModelViewAndProjectionMatrixUniforms();
             state.applyModelViewAndProjectionUniformsIfRequired();
         }
+    }
+    if (hasVertexArrayObjects_)
+    {
+        extensions_->glBindVertexArray(static_cast<unsigned int>(vertexArray_));
     }
     state.setActiveTextureUnit(trackedUnit_);
     state.setClientActiveTextureUnit(trackedClientUnit_);
@@ -429,16 +463,25 @@ void GlState::UseModelMatrix(const float* matrix)
     }
 }
 
-void GlState::UseVertices(const SystemGl::Vertex* vertices)
+void GlState::UseVertices(const SystemGl::Vertex* vertices, std::size_t count)
 {
-    SystemGl::UseVertices(vertices);
+    const void* first = vertices;
+    if (state_ && UsesOwnArray())
+    {
+        extensions_->glBufferData(ArrayBuffer, static_cast<GLsizeiptr>(count * sizeof(SystemGl::Vertex)), vertices, StreamDraw);
+        first = nullptr;
+    }
+    SystemGl::UseVertices(first);
     if (state_ && state_->getUseVertexAttributeAliasing())
     {
-        const auto use = [&](unsigned int location, int size, const float* first)
-        { extensions_->glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(SystemGl::Vertex), first); };
-        use(state_->getVertexAlias()._location, 3, vertices->position);
-        use(state_->getColorAlias()._location, 4, vertices->color);
-        use(state_->getTexCoordAliasList().front()._location, 2, vertices->texture);
+        const auto use = [&](unsigned int location, int size, std::size_t offset)
+        {
+            extensions_->glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(SystemGl::Vertex),
+                                               static_cast<const char*>(first) + offset);
+        };
+        use(state_->getVertexAlias()._location, 3, offsetof(SystemGl::Vertex, position));
+        use(state_->getColorAlias()._location, 4, offsetof(SystemGl::Vertex, color));
+        use(state_->getTexCoordAliasList().front()._location, 2, offsetof(SystemGl::Vertex, texture));
     }
 }
 

@@ -7,6 +7,7 @@
 #include <osg/observer_ptr>
 #include <osg/ref_ptr>
 
+#include <cstddef>
 #include <vector>
 
 namespace osg
@@ -25,7 +26,8 @@ public:
     GlState(const GlState&) = delete;
     GlState& operator=(const GlState&) = delete;
 
-    /// Notes what is bound. The context has to be current until `End`.
+    /// Notes what is bound, and binds the vertex-array object that the state takes to be bound. The context has to be current
+    /// until `End`.
     void Begin(osg::State& state);
     /// Sets all that the picture depends on, but for blending.
     void Set();
@@ -33,12 +35,12 @@ public:
     void End();
     bool IsBegun() const { return state_ != nullptr; }
 
-    /// Sixteen numbers each, column by column. With the matrices of OpenGL, those that OpenSceneGraph hands to shaders as uniforms
-    /// are set when it does.
+    /// Sixteen numbers each, column by column. With the matrices of OpenGL, those that OpenSceneGraph hands to shaders as
+    /// uniforms are set when it does.
     void UseProjection(const float* matrix);
     void UseModelMatrix(const float* matrix);
     /// All draws from now on take these.
-    void UseVertices(const SystemGl::Vertex* vertices);
+    void UseVertices(const SystemGl::Vertex* vertices, std::size_t count);
     /// How textures are read until told otherwise: the nearest pixel as it stands, or as each texture says, which is a mixture
     /// of neighbours. Without OpenGL 3.3's samplers it is always the latter.
     void ReadNearestPixels(bool nearest);
@@ -75,6 +77,8 @@ private:
 
     void LearnContext(osg::State& state);
     void SetArrays();
+    void DisableFoundArrays();
+    bool UsesOwnArray() const { return hasVertexArrayObjects_ && !clientPushed_; }
     void SetFixedFunctions();
     void SaveValues();
     void RestoreValues();
@@ -85,6 +89,8 @@ private:
 
     // Of the context.
     osg::observer_ptr<osg::State> contextState_;
+    unsigned int ownArray_ = 0; ///< a vertex-array object and its buffer object, made when they are wanted
+    unsigned int ownBuffer_ = 0;
     unsigned int sampler_ = 0; ///< reads nearest pixels; none where OpenGL has no samplers
     bool hasSamplers_ = false;
     bool hasVertexArrayObjects_ = false;
@@ -101,6 +107,7 @@ private:
     bool pushed_ = false;
     bool clientPushed_ = false;
     bool fixed_ = false; ///< there is no program
+    bool colorSum_ = false;
     unsigned int trackedUnit_ = 0;
     unsigned int trackedClientUnit_ = 0;
     int unit_ = 0;

@@ -172,7 +172,7 @@ private:
             {
                 SystemGl::Enable(GL_SCISSOR_TEST, batch.clip);
                 SystemGl::BindTexture(batch.texture);
-                renderer_.state_.UseVertices(Vertices(first));
+                renderer_.state_.UseVertices(Vertices(first), batch.vertexCount);
                 SystemGl::DrawTriangles(0, static_cast<int>(batch.vertexCount));
                 first += batch.vertexCount;
             }
@@ -438,7 +438,7 @@ void GuiRenderer::DrawAll(const DrawList& list)
     }
     setupRenderingBlendMode(CEGUI::BM_NORMAL);
     state_.UseModelMatrix(Identity);
-    state_.UseVertices(list.vertices.data());
+    state_.UseVertices(list.vertices.data(), list.vertices.size());
     const float height = getActiveViewPort().getHeight();
     bool cut = false;
     SystemGl::Enable(GL_SCISSOR_TEST, cut);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "GuiImageCodec.h"
 
+#include "PixelUnpack.h"
 #include "PngFile.h"
 
 #include <CEGUI/DataContainer.h>
@@ -66,6 +67,7 @@ CEGUI::Texture* GuiImageCodec::load(const CEGUI::RawDataContainer& data, CEGUI::
         return nullptr;
     }
     const CEGUI::Sizef size(static_cast<float>(picture.width), static_cast<float>(picture.height));
+    const PixelUnpack unpack;
     result->loadFromMemory(picture.pixels.data(), size, CEGUI::Texture::PF_RGBA);
     return result;
 }
