@@ -13,3 +13,7 @@ GlSnapshot TakeGlSnapshot();
 
 /// What differs, one line each: name, before, after.
 std::vector<std::string> Differences(const GlSnapshot& before, const GlSnapshot& after);
+
+/// Those of them that are not client arrays which were enabled and are not any more: OpenSceneGraph is told to disable all before
+/// the interface is drawn.
+std::vector<std::string> ButDisabledArrays(const std::vector<std::string>& differences);

@@ -24,24 +24,6 @@ struct State
     bool arraysDisabled = false;
 };
 
-/// Without client arrays that have been disabled.
-Lines ButDisabledArrays(const Lines& differences)
-{
-    Lines left;
-    for (const std::string& line : differences)
-    {
-        const std::size_t now = line.find(" -> ");
-        const bool array = line.find("ARRAY: 1 -> 0") != std::string::npos ||
-                           (line.find(" array: 1 ") != std::string::npos &&
-                            line.substr(line.find(": 1") + 3, now - line.find(": 1") - 3) == line.substr(now + 5));
-        if (!array)
-        {
-            left.push_back(line);
-        }
-    }
-    return left;
-}
-
 void Nothing() {}
 
 State Capability(const char* name, unsigned int capability)

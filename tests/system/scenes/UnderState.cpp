@@ -64,11 +64,11 @@ void UnderState::TearDown()
     HostedFrame::TearDown();
 }
 
-UnderState::Outcome UnderState::Draw(const std::function<void()>& set, const std::function<void()>& unset)
+UnderState::Outcome UnderState::Draw(GuiHost& host, const std::function<void()>& set, const std::function<void()>& unset)
 {
     const osg::ref_ptr<Around> around = new Around(set, unset);
     Drawable().setDrawCallback(around);
-    const Screenshot shot = Host().Shoot();
+    const Screenshot shot = host.Shoot();
     Drawable().setDrawCallback(nullptr);
     return {shot, around->differences, around->errors};
 }

@@ -24,7 +24,8 @@ protected:
     /// Draws one frame.
     /// @param set called just before the interface is drawn
     /// @param unset called just after it; it need not put back what OpenGL's stacks of attributes save
-    static Outcome Draw(const std::function<void()>& set, const std::function<void()>& unset);
+    static Outcome Draw(GuiHost& host, const std::function<void()>& set, const std::function<void()>& unset);
+    static Outcome Draw(const std::function<void()>& set, const std::function<void()>& unset) { return Draw(Host(), set, unset); }
     /// Queues all windows anew, so that the next frame is not drawn out of what the last one kept.
     static void MarkDirty();
     /// For the life of the object the interface has no program.
