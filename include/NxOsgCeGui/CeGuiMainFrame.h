@@ -221,6 +221,11 @@ public:
     /// no context is. False when there is none. It is not released here.
     bool MakeContextCurrent();
 
+    /// When the interface is drawn among the cameras of the scene that are drawn after it (`osg::Camera::POST_RENDER`): after all
+    /// of a lower number, and before those of a higher one, which lie over it then. 0 at the start. Takes effect with the next
+    /// frame, and stays for every later `Init`.
+    void SetRenderOrder(int orderNum);
+
     /// Posts `GUI_HOST_MESSAGE` to the viewer's window; without one the message lands in the calling thread's own queue.
     void NotifyHost(UINT code, LPARAM value);
 
@@ -292,6 +297,7 @@ private:
     osg::observer_ptr<osg::State> guiState_;
     UINT windowWidth_ = 800;
     UINT windowHeight_ = 600;
+    int renderOrder_ = 0;
     bool displaySystemMouse_ = false;
     bool initialised_ = false;
     GUIUserType userType_ = GUI_USER_FULL;

@@ -179,13 +179,10 @@ void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
     }
     else
     {
+        const GuiRenderer::Frame frame(*static_cast<GuiRenderer*>(renderer_), state);
         state.disableAllVertexArrays();
-        // A buffer object left bound would turn CEGUI's client arrays into offsets.
-        state.unbindVertexBufferObject();
-        state.unbindElementBufferObject();
         state.setClientActiveTextureUnit(0);
         state.setActiveTextureUnit(0);
-        static_cast<GuiRenderer*>(renderer_)->UseState(state);
         if (CallbackScope::IsNested())
         {
             // The system's own drawing ends with the release of destroyed windows, whose functions are still on the stack.

@@ -2,16 +2,16 @@
 #include "GuiRenderer.h"
 
 #include <CEGUI/GUIContext.h>
+#include <CEGUI/RenderEffect.h>
+#include <CEGUI/RenderQueue.h>
 #include <CEGUI/RendererModules/OpenGL/GLGeometryBuffer.h>
+#include <CEGUI/RendererModules/OpenGL/GlmPimpl.h>
 #include <CEGUI/RendererModules/OpenGL/Texture.h>
+#include <CEGUI/RendererModules/OpenGL/ViewportTarget.h>
 #include <CEGUI/RenderingSurface.h>
-
-#include <osg/GLExtensions>
-#include <osg/State>
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace
 {
@@ -22,13 +22,41 @@ bool IsWhole(float pixels)
 {
     return std::fabs(pixels - std::round(pixels)) <= Tolerance;
 }
+
+const float* Numbers(const CEGUI::mat4Pimpl& matrix)
+{
+    return &matrix.d_matrix[0][0];
+}
+
+constexpr float Identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 } // namespace
+
+/// The view. Only here is it seen which geometry belongs to a queue: what a host's slot draws as a queue starts or ends is drawn
+/// at once.
+class GuiRenderer::ViewTarget : public CEGUI::OpenGLViewportTarget
+{
+public:
+    explicit ViewTarget(GuiRenderer& owner) : CEGUI::OpenGLViewportTarget(owner), renderer_(owner) {}
+
+    using CEGUI::OpenGLViewportTarget::draw;
+    void draw(const CEGUI::RenderQueue& queue) override { renderer_.DrawQueue(queue); }
+
+private:
+    GuiRenderer& renderer_;
+};
 
 /// Everything that is drawn of one window. What is known of it is found out at its first draw after a change.
 class GuiRenderer::Pictures : public CEGUI::OpenGLGeometryBuffer
 {
 public:
     explicit Pictures(GuiRenderer& owner) : CEGUI::OpenGLGeometryBuffer(owner), renderer_(owner) {}
+    ~Pictures() override
+    {
+        if (generation_ == renderer_.generation_)
+        {
+            renderer_.Forget(*this);
+        }
+    }
 
     void setTranslation(const CEGUI::Vector3f& translation) override
     {
@@ -91,15 +119,25 @@ public:
         {
             return;
         }
-        if (plain && d_blendMode == CEGUI::BM_NORMAL && renderer_.MayWait())
+        if (plain && d_blendMode == CEGUI::BM_NORMAL && renderer_.mayWait_)
         {
             Wait();
             return;
         }
         renderer_.queueing_ = false;
         renderer_.DrawWaiting();
-        renderer_.ReadNearestPixels(plain && pixelOnPixel_);
-        OpenGLGeometryBuffer::draw();
+        DrawAlone(plain && pixelOnPixel_);
+    }
+
+    void setActiveTexture(CEGUI::Texture* texture) override
+    {
+        OpenGLGeometryBuffer::setActiveTexture(texture);
+        // The texture may be destroyed before its picture is drawn or moved.
+        if (texture)
+        {
+            textureName_ = d_activeTexture->getOpenGLTexture();
+            textureSize_ = d_activeTexture->getSize();
+        }
     }
 
 private:
@@ -109,15 +147,57 @@ private:
         renderer_.changed_ = renderer_.changed_ || generation_ == renderer_.generation_;
     }
 
+    /// As CEGUI does.
+    void DrawAlone(bool nearest) const
+    {
+        const float height = renderer_.getActiveViewPort().getHeight();
+        SystemGl::Scissor(static_cast<int>(d_clipRect.left()), static_cast<int>(height - d_clipRect.bottom()),
+                          static_cast<int>(d_clipRect.getWidth()), static_cast<int>(d_clipRect.getHeight()));
+        if (!d_matrixValid)
+        {
+            updateMatrix();
+        }
+        renderer_.state_.UseModelMatrix(Numbers(*d_matrix));
+        renderer_.setupRenderingBlendMode(d_blendMode);
+        const int passes = d_effect ? d_effect->getPassCount() : 1;
+        for (int pass = 0; pass < passes; ++pass)
+        {
+            if (d_effect)
+            {
+                d_effect->performPreRenderFunctions(pass);
+            }
+            renderer_.state_.ReadNearestPixels(nearest);
+            std::size_t first = 0;
+            for (const BatchInfo& batch : d_batches)
+            {
+                SystemGl::Enable(GL_SCISSOR_TEST, batch.clip);
+                SystemGl::BindTexture(batch.texture);
+                renderer_.state_.UseVertices(Vertices(first), batch.vertexCount);
+                SystemGl::DrawTriangles(0, static_cast<int>(batch.vertexCount));
+                first += batch.vertexCount;
+            }
+            renderer_.state_.ReadNearestPixels(false);
+        }
+        if (d_effect)
+        {
+            d_effect->performPostRenderFunctions();
+        }
+    }
+
+    const SystemGl::Vertex* Vertices(std::size_t first) const
+    {
+        static_assert(sizeof(GLVertex) == sizeof(SystemGl::Vertex), "CEGUI's vertices are put together like ours");
+        return reinterpret_cast<const SystemGl::Vertex*>(d_vertices[first].tex);
+    }
+
     void Wait() const
     {
-        static_assert(sizeof(GLVertex) == sizeof(SystemGl::Vertex), "they are copied as they stand");
         std::size_t first = 0;
         for (const BatchInfo& batch : d_batches)
         {
             renderer_.waiting_.Add(
                 {batch.texture, pixelOnPixel_, batch.clip && !whole_, d_clipRect, 0, static_cast<int>(batch.vertexCount)},
-                d_vertices[first].tex, d_translation);
+                Vertices(first), d_translation);
             first += batch.vertexCount;
         }
     }
@@ -150,11 +230,11 @@ private:
     /// Whether all of it is one picture of which each pixel fills one of the view's.
     bool IsPixelOnPixel() const
     {
-        if (d_batches.size() != 1 || !d_activeTexture || d_activeTexture->getOpenGLTexture() != d_batches[0].texture)
+        if (d_batches.size() != 1 || textureName_ == 0 || textureName_ != d_batches[0].texture)
         {
             return false;
         }
-        const CEGUI::Sizef size = d_activeTexture->getSize();
+        const CEGUI::Sizef size = textureSize_;
         const GLVertex& first = d_vertices.front();
         return std::all_of(d_vertices.begin(), d_vertices.end(),
                            [&](const GLVertex& vertex)
@@ -171,6 +251,8 @@ private:
     }
 
     GuiRenderer& renderer_;
+    unsigned int textureName_ = 0; ///< of the texture that was set last
+    CEGUI::Sizef textureSize_;
     bool turned_ = false;
     mutable bool known_ = false;
     mutable bool seen_ = true;
@@ -179,14 +261,17 @@ private:
     mutable unsigned int generation_ = 0; ///< the last one that it belonged to
 };
 
-GuiRenderer::GuiRenderer() : CEGUI::OpenGLRenderer(TTT_AUTO) {}
+GuiRenderer::GuiRenderer() : CEGUI::OpenGLRenderer(TTT_AUTO)
+{
+    CEGUI_DELETE_AO d_defaultTarget;
+    d_defaultTarget = CEGUI_NEW_AO ViewTarget(*this);
+}
 
 GuiRenderer::~GuiRenderer()
 {
-    if (sampler_ != 0)
-    {
-        extensions_->glDeleteSamplers(1, &sampler_);
-    }
+    // CEGUI's context is gone by now, and buffers ask this object about themselves as they go.
+    context_ = nullptr;
+    destroyAllGeometryBuffers();
 }
 
 GuiRenderer& GuiRenderer::Create()
@@ -194,29 +279,26 @@ GuiRenderer& GuiRenderer::Create()
     return *new GuiRenderer;
 }
 
-void GuiRenderer::UseState(osg::State& state)
+GuiRenderer::Frame::Frame(GuiRenderer& renderer, osg::State& state) : renderer_(renderer)
 {
-    extensions_ = state.get<osg::GLExtensions>();
-    nearest_ = false;
-    // A window that was closed and made again has another context, in which there is none yet.
-    if (sampler_ != 0 && !extensions_->glIsSampler(sampler_))
+    renderer_.state_.Begin(state);
+}
+
+GuiRenderer::Frame::~Frame()
+{
+    if (renderer_.rendering_)
     {
-        sampler_ = 0;
-        asked_ = false;
-    }
-    if (!asked_)
-    {
-        asked_ = true;
-        if (!osg::isGLExtensionOrVersionSupported(state.getContextID(), "GL_ARB_sampler_objects", 3.3f))
+        renderer_.waiting_.Clear();
+        renderer_.queueing_ = false;
+        renderer_.mayWait_ = false;
+        renderer_.inContext_ = false;
+        if (renderer_.context_)
         {
-            return;
+            renderer_.context_->markAsDirty();
         }
-        extensions_->glGenSamplers(1, &sampler_);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+        renderer_.endRendering();
     }
+    renderer_.state_.End();
 }
 
 void GuiRenderer::DrawTogether(CEGUI::GUIContext& context)
@@ -228,12 +310,6 @@ void GuiRenderer::DrawTogether(CEGUI::GUIContext& context)
                                BeginQueue(static_cast<const CEGUI::RenderQueueEventArgs&>(args).queueID);
                                return true;
                            });
-    context.subscribeEvent(CEGUI::RenderingSurface::EventRenderQueueEnded,
-                           [this](const CEGUI::EventArgs&)
-                           {
-                               EndQueue();
-                               return true;
-                           });
 }
 
 void GuiRenderer::beginRendering()
@@ -243,26 +319,40 @@ void GuiRenderer::beginRendering()
         // All windows are queued anew, and those that are gone are not among them.
         ForgetWindows();
     }
-    OpenGLRenderer::beginRendering();
+    rendering_ = true;
+    if (!state_.IsBegun())
+    {
+        // A host that draws CEGUI by itself.
+        OpenGLRenderer::beginRendering();
+        return;
+    }
+    state_.Set();
+    setupRenderingBlendMode(CEGUI::BM_NORMAL, true);
 }
 
 void GuiRenderer::endRendering()
 {
-    DrawWaiting();
-    ReadNearestPixels(false);
-    OpenGLRenderer::endRendering();
+    rendering_ = false;
+    if (!state_.IsBegun())
+    {
+        OpenGLRenderer::endRendering();
+        return;
+    }
+    state_.End();
+}
+
+void GuiRenderer::setViewProjectionMatrix(const CEGUI::mat4Pimpl* matrix)
+{
+    OpenGLRendererBase::setViewProjectionMatrix(matrix);
+    state_.UseProjection(Numbers(*matrix));
 }
 
 void GuiRenderer::BeginQueue(CEGUI::RenderQueueID queue)
 {
-    DrawWaiting();
-    if (queue != CEGUI::RQ_BASE)
+    queue_ = queue;
+    inContext_ = true;
+    if (queue != CEGUI::RQ_BASE || (kept_ && !changed_))
     {
-        return;
-    }
-    if (kept_ && !changed_)
-    {
-        DrawAll(windows_);
         return;
     }
     if (kept_)
@@ -274,11 +364,34 @@ void GuiRenderer::BeginQueue(CEGUI::RenderQueueID queue)
         }
     }
     ForgetWindows();
-    queueing_ = true;
 }
 
-void GuiRenderer::EndQueue()
+void GuiRenderer::DrawQueue(const CEGUI::RenderQueue& queue)
 {
+    mayWait_ = true;
+    if (inContext_ && queue_ == CEGUI::RQ_BASE)
+    {
+        DrawWindows(queue);
+    }
+    else
+    {
+        queue.draw();
+    }
+    DrawWaiting();
+    mayWait_ = false;
+    inContext_ = false;
+}
+
+void GuiRenderer::DrawWindows(const CEGUI::RenderQueue& queue)
+{
+    if (kept_)
+    {
+        DrawAll(windows_);
+        queue.draw();
+        return;
+    }
+    queueing_ = true;
+    queue.draw();
     if (queueing_)
     {
         std::swap(waiting_, windows_);
@@ -287,7 +400,6 @@ void GuiRenderer::EndQueue()
         kept_ = true;
         queueing_ = false;
     }
-    DrawWaiting();
 }
 
 void GuiRenderer::ForgetWindows()
@@ -299,9 +411,17 @@ void GuiRenderer::ForgetWindows()
     queued_.clear();
 }
 
-bool GuiRenderer::MayWait()
+void GuiRenderer::Forget(const Pictures& pictures)
 {
-    return context_ && getActiveRenderTarget() == &context_->getRenderTarget();
+    if (std::find(queued_.begin(), queued_.end(), &pictures) == queued_.end())
+    {
+        return;
+    }
+    ForgetWindows();
+    if (context_)
+    {
+        context_->markAsDirty();
+    }
 }
 
 void GuiRenderer::DrawWaiting()
@@ -317,18 +437,18 @@ void GuiRenderer::DrawAll(const DrawList& list)
         return;
     }
     setupRenderingBlendMode(CEGUI::BM_NORMAL);
-    SystemGl::ResetModelMatrix();
-    SystemGl::UseVertices(list.vertices.data());
+    state_.UseModelMatrix(Identity);
+    state_.UseVertices(list.vertices.data(), list.vertices.size());
     const float height = getActiveViewPort().getHeight();
     bool cut = false;
-    SystemGl::EnableScissor(cut);
+    SystemGl::Enable(GL_SCISSOR_TEST, cut);
     for (const Draw& draw : list.draws)
     {
-        ReadNearestPixels(draw.nearest);
+        state_.ReadNearestPixels(draw.nearest);
         if (draw.cut != cut)
         {
             cut = draw.cut;
-            SystemGl::EnableScissor(cut);
+            SystemGl::Enable(GL_SCISSOR_TEST, cut);
         }
         if (cut)
         {
@@ -338,25 +458,16 @@ void GuiRenderer::DrawAll(const DrawList& list)
         SystemGl::BindTexture(draw.texture);
         SystemGl::DrawTriangles(draw.first, draw.count);
     }
+    // Whatever else is drawn in this frame reads its textures as they say.
+    state_.ReadNearestPixels(false);
 }
 
-void GuiRenderer::ReadNearestPixels(bool nearest)
-{
-    if (nearest != nearest_ && sampler_ != 0)
-    {
-        nearest_ = nearest;
-        extensions_->glBindSampler(0, nearest ? sampler_ : 0);
-    }
-}
-
-void GuiRenderer::DrawList::Add(Draw draw, const float* first, const CEGUI::Vector3f& moved)
+void GuiRenderer::DrawList::Add(Draw draw, const SystemGl::Vertex* first, const CEGUI::Vector3f& moved)
 {
     draw.first = static_cast<int>(vertices.size());
     draws.push_back(draw);
-    vertices.resize(vertices.size() + static_cast<std::size_t>(draw.count));
+    vertices.insert(vertices.end(), first, first + draw.count);
     const auto added = vertices.begin() + draw.first;
-    // CEGUI's vertices are put together like ours.
-    std::memcpy(&*added, first, static_cast<std::size_t>(draw.count) * sizeof(SystemGl::Vertex));
     for (auto vertex = added; vertex != vertices.end(); ++vertex)
     {
         vertex->position[0] += moved.d_x;

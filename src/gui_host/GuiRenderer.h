@@ -4,11 +4,9 @@
 // GLRenderer.h brings GLEW, which has to come before any other OpenGL header.
 #include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
 
-#include "../../platform/SystemGl.h"
+#include "GlState.h"
 
 #include <CEGUI/RenderingSurface.h>
-
-#include <osg/ref_ptr>
 
 #include <vector>
 
@@ -16,12 +14,6 @@ namespace CEGUI
 {
 class GUIContext;
 } // namespace CEGUI
-
-namespace osg
-{
-class GLExtensions;
-class State;
-} // namespace osg
 
 /// CEGUI's renderer over OpenGL, which draws the same picture with less work: pictures that are not to be seen cost no call, the
 /// others are drawn together out of one array, and those that lie one pixel on one of the view's are shown as they stand instead
@@ -33,9 +25,21 @@ public:
     /// On the current OpenGL context; `CEGUI::OpenGLRenderer::destroy` takes it away.
     static GuiRenderer& Create();
 
-    /// Before the first frame and each later one.
-    /// @param state of the context that is current and drawn with from now on
-    void UseState(osg::State& state);
+    /// A frame's drawing, for the life of the object. Where an exception leaves it before CEGUI has ended, it ends what CEGUI has
+    /// begun; the next frame is drawn anew.
+    class Frame
+    {
+    public:
+        /// @param state of the context that is current and drawn with
+        Frame(GuiRenderer& renderer, osg::State& state);
+        ~Frame();
+        Frame(const Frame&) = delete;
+        Frame& operator=(const Frame&) = delete;
+
+    private:
+        GuiRenderer& renderer_;
+    };
+
     /// Draws what lies in each of this context's queues together. Only what is drawn into its target waits for the others.
     /// Geometry that is no window's belongs into another queue than theirs, which is `CEGUI::RQ_BASE` and emptied as soon as it
     /// is drawn.
@@ -43,12 +47,14 @@ public:
 
     void beginRendering() override;
     void endRendering() override;
+    void setViewProjectionMatrix(const CEGUI::mat4Pimpl* matrix) override;
 
 protected:
     CEGUI::OpenGLGeometryBufferBase* createGeometryBuffer_impl() override;
 
 private:
     class Pictures;
+    class ViewTarget;
 
     /// Some triangles of one picture.
     struct Draw
@@ -65,31 +71,31 @@ private:
         std::vector<Draw> draws;
 
         /// Copies the vertices, moved; `draw.first` is found out.
-        void Add(Draw draw, const float* first, const CEGUI::Vector3f& moved);
+        void Add(Draw draw, const SystemGl::Vertex* first, const CEGUI::Vector3f& moved);
         void Clear();
     };
 
     GuiRenderer();
     ~GuiRenderer() override;
 
-    /// Whether draws may wait at the moment.
-    bool MayWait();
     /// Draws what waits, before anything else is drawn.
     void DrawWaiting();
     void DrawAll(const DrawList& list);
     void BeginQueue(CEGUI::RenderQueueID queue);
-    void EndQueue();
+    void DrawQueue(const CEGUI::RenderQueue& queue);
+    void DrawWindows(const CEGUI::RenderQueue& queue);
     /// The next picture is made of the windows' queue again.
     void ForgetWindows();
-    /// How textures are read until told otherwise: the nearest pixel as it stands, or as each texture says, which is a mixture
-    /// of neighbours. Without OpenGL 3.3's samplers it is always the latter.
-    void ReadNearestPixels(bool nearest);
+    /// Of something that is not to be drawn any more.
+    void Forget(const Pictures& pictures);
 
-    osg::ref_ptr<const osg::GLExtensions> extensions_;
-    bool asked_ = false;       ///< for a sampler, in the present context
-    unsigned int sampler_ = 0; ///< none where OpenGL has none
-    bool nearest_ = false;
+    GlState state_;
+    bool rendering_ = false; ///< between `beginRendering` and `endRendering`
     CEGUI::GUIContext* context_ = nullptr;
+    /// The queue of `context_` that is drawn next.
+    CEGUI::RenderQueueID queue_ = CEGUI::RQ_UNDERLAY;
+    bool inContext_ = false; ///< that queue is one of `context_`
+    bool mayWait_ = false;   ///< a queue is being drawn into the view
     DrawList waiting_;
 
     /// What the windows show. While it is kept, it is drawn in place of their queue, which is empty.

@@ -48,11 +48,20 @@ osg::Camera* CeGuiMainFrame::CreateHudCamera()
     // Relative and without matrices of its own: CEGUI sets up its pixel projection when it draws.
     camera->setReferenceFrame(osg::Transform::RELATIVE_RF);
     camera->setClearMask(GL_DEPTH_BUFFER_BIT);
-    camera->setRenderOrder(osg::Camera::POST_RENDER, 0);
+    camera->setRenderOrder(osg::Camera::POST_RENDER, renderOrder_);
     camera->setAllowEventFocus(false);
     camera->getOrCreateStateSet()->setMode(GL_LIGHTING, osg::StateAttribute::OFF | osg::StateAttribute::PROTECTED);
     camera->setName("gui_Camera");
     return camera;
+}
+
+void CeGuiMainFrame::SetRenderOrder(int orderNum)
+{
+    renderOrder_ = orderNum;
+    if (hudCamera_)
+    {
+        hudCamera_->setRenderOrder(osg::Camera::POST_RENDER, renderOrder_);
+    }
 }
 
 void CeGuiMainFrame::CreateGuiDrawable()

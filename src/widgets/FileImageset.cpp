@@ -4,6 +4,7 @@
 #include "FailureLog.h"
 #include "GuiResourceProvider.h"
 #include "Names.h"
+#include "PixelUnpack.h"
 
 #include <CEGUI/BasicImage.h>
 #include <CEGUI/Exceptions.h>
@@ -46,6 +47,7 @@ CEGUI::Renderer& Renderer()
 void MakeBlank(Imageset& imageset)
 {
     const std::uint32_t transparent = 0;
+    const PixelUnpack unpack;
     imageset.texture->loadFromMemory(&transparent, CEGUI::Sizef(1, 1), CEGUI::Texture::PF_RGBA);
     imageset.image->setArea(CEGUI::Rectf(0, 0, 1, 1));
     imageset.loaded = false;

@@ -4,6 +4,7 @@
 #include "../imaging/ImageSizeGuard.h"
 #include "../imaging/PngFile.h"
 #include "../imaging/TiffFile.h"
+#include "PixelUnpack.h"
 
 #include <CEGUI/DataContainer.h>
 #include <CEGUI/Size.h>
@@ -67,6 +68,7 @@ CEGUI::Texture* GuiImageCodec::load(const CEGUI::RawDataContainer& data, CEGUI::
         return nullptr;
     }
     const CEGUI::Sizef size(static_cast<float>(picture.width), static_cast<float>(picture.height));
+    const PixelUnpack unpack;
     result->loadFromMemory(picture.pixels.data(), size, CEGUI::Texture::PF_RGBA);
     return result;
 }

@@ -200,6 +200,16 @@ const std::vector<Operation>& Operations()
              f.OnToolBarFullScene(false);
              EXPECT_FALSE(f.IsFullScene());
          }},
+        {"SetRenderOrder",
+         [](F& f)
+         {
+             f.SetRenderOrder(7);
+             if (f.IsInit())
+             {
+                 EXPECT_EQ(dynamic_cast<osg::Camera&>(*f.GetGUINode()).getRenderOrderNum(), 7);
+             }
+             f.SetRenderOrder(0);
+         }},
         {"NotifyHost", [](F& f) { f.NotifyHost(2, 0); }},
         {"ClearTitleSet",
          [](F& f)
