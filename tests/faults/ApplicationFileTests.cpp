@@ -94,7 +94,7 @@ TEST_F(ApplicationFiles, spoilt_at_the_start_are_survived_and_the_next_start_men
 
 TEST_F(ApplicationFiles, a_missing_language_table_leaves_every_text_as_it_is_built_in)
 {
-    const Fault fault("no language table");
+    Fault fault("no language table");
     const auto shown = [this]
     {
         Reread();
@@ -116,6 +116,7 @@ TEST_F(ApplicationFiles, a_missing_language_table_leaves_every_text_as_it_is_bui
         const FileTaken table(AppDir() + L"languages\\zh-CN.ini");
         EXPECT_TRUE(shown() == before);
         const Lines log = NewLog();
+        fault.Bites(log.size() == 1);
         ASSERT_EQ(log.size(), 1u);
         EXPECT_NE(log[0].find("zh-CN.ini is missing; the built-in texts are shown."), std::string::npos) << log[0];
     }
