@@ -7,6 +7,7 @@
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
+#include "../widgets/FileStamp.h"
 #include "../widgets/InputState.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
@@ -158,6 +159,11 @@ void CeGuiMainFrame::ClearAllWindows()
     if (!system || !MakeContextCurrent())
     {
         return;
+    }
+    if (!FileImagesets::TextureReuse::IsWanted())
+    {
+        // Whoever asks for it outside of a size event wants what the files hold now.
+        ReadAllAnew();
     }
     const ParsingLocale locale;
     system->removeAllEvents();
