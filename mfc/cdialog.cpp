@@ -16,7 +16,14 @@ INT_PTR CALLBACK CDialog::DialogProcedure(HWND window, UINT message, WPARAM, LPA
         return FALSE;
     }
     CDialog* dialog = reinterpret_cast<CDialog*>(lParam);
-    return dialog->SubclassWindow(window) ? dialog->OnInitDialog() : TRUE;
+    try
+    {
+        return dialog->SubclassWindow(window) ? dialog->OnInitDialog() : TRUE;
+    }
+    catch (...)
+    {
+        return AfxProcessWndProcException(window, message);
+    }
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)

@@ -22,6 +22,10 @@ protected:
     const AFX_MSGMAP_ENTRY* FindEntry(UINT message, UINT code, UINT id) const;
 };
 
+// What a window's procedure gives for a message whose handler has raised; called where the exception has been caught. One line
+// for the debugger.
+LRESULT AfxProcessWndProcException(HWND window, UINT message);
+
 // A window. One that was attached is only held; the messages of one that was subclassed go through this object's message map
 // first. Whoever destroys the object without Detach destroys the window.
 class NX_MFC_EXPORT CWnd : public CCmdTarget

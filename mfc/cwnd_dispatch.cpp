@@ -3,6 +3,7 @@
 #include "afxwin.h"
 
 #include <exception>
+#include <string>
 
 namespace
 {
@@ -91,12 +92,34 @@ LRESULT CALLBACK CWnd::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
         // The object may be gone when this returns.
         return object->WindowProc(message, wParam, lParam);
     }
-    catch (const std::exception& failure)
+    catch (...)
     {
         // No exception may pass through the system's frames between here and the message loop.
-        ::OutputDebugStringA(failure.what());
-        return 0;
+        return AfxProcessWndProcException(window, message);
     }
+}
+
+LRESULT AfxProcessWndProcException(HWND window, UINT message)
+{
+    std::string reason = "of no known kind";
+    try
+    {
+        throw;
+    }
+    catch (const std::exception& failure)
+    {
+        reason = failure.what();
+    }
+    catch (...)
+    {
+    }
+    ::OutputDebugStringA(("Warning: uncaught exception in a window procedure: " + reason + "\n").c_str());
+    if (message == WM_PAINT)
+    {
+        // It would be sent again at once.
+        ::ValidateRect(window, nullptr);
+    }
+    return message == WM_CREATE ? -1 : 0;
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

@@ -3,6 +3,14 @@
 
 #include <sys/stat.h>
 
+namespace
+{
+std::int64_t Nanoseconds(const timespec& time)
+{
+    return std::int64_t(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+} // namespace
+
 NativeFile LookAtNativeFile(const std::string& path)
 {
     NativeFile file;
@@ -12,7 +20,9 @@ NativeFile LookAtNativeFile(const std::string& path)
     {
         file.folder = S_ISDIR(state.st_mode);
         file.size = file.folder ? 0 : static_cast<std::uint64_t>(state.st_size);
-        file.written = std::int64_t(state.st_mtim.tv_sec) * 1000000000 + state.st_mtim.tv_nsec;
+        file.written = Nanoseconds(state.st_mtim);
+        file.changed = Nanoseconds(state.st_ctim);
+        file.id = state.st_ino;
     }
     return file;
 }

@@ -8,6 +8,7 @@
 #include "../widgets/CeGuiToolBar.h"
 #include "../widgets/FailureLog.h"
 #include "../widgets/FileImageset.h"
+#include "../widgets/FileStamp.h"
 #include "../widgets/InputState.h"
 #include "../widgets/MessageLoops.h"
 #include "../widgets/Names.h"
@@ -262,6 +263,11 @@ void CeGuiMainFrame::ClearFrame()
         return;
     }
     CEGUI::System& system = CEGUI::System::getSingleton();
+    if (!FileImagesets::TextureReuse::IsWanted())
+    {
+        // Whoever asks for it outside of a size event wants what the files hold now.
+        ReadAllAnew();
+    }
     const ParsingLocale locale;
     system.removeAllEvents();
     CeGuiToolBar::ForgetAllWindows();

@@ -12,7 +12,11 @@ struct FileStamp
 {
     std::string path; ///< a native one
     NativeFile file;
+    unsigned int reading = 0; ///< how often `ReadAllAnew` had been called
 };
+
+/// From now on no file counts as unchanged that was looked at before.
+void ReadAllAnew();
 
 FileStamp StampOf(const CString& path);
 /// @param path as `NativePath` makes it

@@ -85,6 +85,31 @@ TEST_F(FrameRebuild, a_picture_that_was_changed_is_read_again_also_when_it_has_t
     EXPECT_EQ(Seen(), seen);
 }
 
+TEST_F(FrameRebuild, a_picture_replaced_by_one_of_equal_length_and_time_is_read_again)
+{
+    constexpr std::uint64_t someTime = 132'000'000'000'000'000;
+    std::vector<std::uint8_t> other = ReadBytes(Path("new_skin/closeH.png"));
+    std::vector<std::uint8_t> longer = ReadBytes(Path(Border));
+    const std::size_t length = std::max(other.size(), longer.size());
+    other.resize(length);
+    longer.resize(length);
+    for (const bool renamed : {false, true})
+    {
+        SCOPED_TRACE(renamed);
+        const FileReplaced first(Path(Border), longer);
+        ASSERT_TRUE(SetWrittenAt(Path(Border), someTime));
+        Rebuild();
+        const Pixel seen = Seen();
+        const CString written = renamed ? Path("replacement.png") : Path(Border);
+        ASSERT_TRUE(WriteBytes(written, other));
+        ASSERT_TRUE(SetWrittenAt(written, someTime));
+        ASSERT_TRUE(!renamed || MoveFileExW(written, Path(Border), MOVEFILE_REPLACE_EXISTING));
+        Rebuild();
+        EXPECT_FALSE(Seen() == seen);
+    }
+    Rebuild();
+}
+
 TEST_F(FrameRebuild, a_picture_that_is_gone_is_not_shown_from_memory)
 {
     {

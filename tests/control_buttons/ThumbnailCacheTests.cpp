@@ -100,6 +100,49 @@ TEST_F(ThumbnailCacheTest, the_picture_file_rewritten)
     ExpectRewritten(L"caption", picture_, 1);
 }
 
+TEST_F(ThumbnailCacheTest, the_picture_file_replaced_by_one_of_equal_length_and_time)
+{
+    constexpr std::uint64_t someTime = 132'000'000'000'000'000;
+    const CString other = Write(L"replacement.bmp", Bmp24(Solid(60, 40, 0xFF00FF00)));
+    picture_ = Write(L"photo.bmp", Bmp24(Solid(60, 40, 0xFFFF0000)));
+    for (const CString& file : {picture_, other})
+    {
+        ASSERT_TRUE(SetWrittenAt(file, someTime));
+    }
+    ExpectRewritten(L"caption", picture_, 1);
+    ASSERT_TRUE(MoveFileExW(other, picture_, MOVEFILE_REPLACE_EXISTING));
+    ExpectRewritten(L"caption", picture_, 1);
+}
+
+TEST_F(ThumbnailCacheTest, a_skin_file_replaced_by_one_of_equal_length_and_time)
+{
+    constexpr std::uint64_t someTime = 132'000'000'000'000'000;
+    const CString mark = SkinDir() + L"new_skin/videoplay.png";
+    const FileReplaced first(mark, Bmp24(Solid(41, 41, 0xFF336699)));
+    ASSERT_TRUE(SetWrittenAt(mark, someTime));
+    ExpectRewritten(L"caption", picture_, 1);
+    ASSERT_TRUE(WriteBytes(mark, Bmp24(Solid(41, 41, 0xFF996633))));
+    ASSERT_TRUE(SetWrittenAt(mark, someTime));
+    ExpectRewritten(L"caption", picture_, 1);
+}
+
+TEST_F(ThumbnailCacheTest, clearing_all_windows_outside_of_a_size_event_composes_anew)
+{
+    Show({Record(L"a", 0, L"one", picture_)});
+    const Times first = TimesOf(0);
+    ASSERT_NE(first.normal, 0u);
+    Pause();
+    Frame().ClearAllWindows();
+    Frame().CreateMainFrame();
+    const Times second = TimesOf(0);
+    EXPECT_NE(second.normal, first.normal);
+    EXPECT_NE(second.pushed, first.pushed);
+    Pause();
+    Host().Resize(900, 650);
+    EXPECT_EQ(TimesOf(0).normal, second.normal);
+    EXPECT_EQ(TimesOf(0).pushed, second.pushed);
+}
+
 TEST_F(ThumbnailCacheTest, the_picture_file_gone_and_back)
 {
     {

@@ -5,6 +5,7 @@
 
 #include <afxdlgs.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,10 @@ public:
         {
             EndDialog(77);
         }
+        if (raises)
+        {
+            throw std::runtime_error("from the initialisation");
+        }
         return TRUE;
     }
     void OnOK() override
@@ -60,6 +65,7 @@ public:
     int chosen = 0;
     int destroyed = 0;
     bool endsAtOnce = false;
+    bool raises = false;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override
@@ -246,6 +252,17 @@ TEST_F(Dialog, WithoutItsTemplateThereIsNone)
     AfxSetResourceHandle(nullptr);
     EXPECT_TRUE(form.Create(Template));
     EXPECT_FALSE(form.IsWindowVisible()) << "shown by the caller";
+}
+
+TEST_F(Dialog, AnExceptionOfItsInitialisationEndsThere)
+{
+    form.raises = true;
+    ASSERT_TRUE(form.Create(Template));
+    EXPECT_TRUE(IsWindow(form));
+    EXPECT_EQ(form.list.GetCount(), 3);
+    form.DestroyWindow();
+    form.endsAtOnce = true;
+    EXPECT_EQ(form.DoModal(), 77);
 }
 
 TEST_F(Dialog, ModalOneEndsWithItsResult)

@@ -13,6 +13,7 @@ namespace
 {
 constexpr UINT Ask = WM_APP + 1;
 constexpr UINT Throw = WM_APP + 2;
+constexpr UINT ThrowNumber = WM_APP + 3;
 
 HWND NewWindow(const wchar_t* windowClass, const wchar_t* text = L"", DWORD style = WS_POPUP, HWND parent = nullptr, int id = 0)
 {
@@ -39,6 +40,7 @@ protected:
     }
     afx_msg LRESULT OnAsk(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) * lParam; }
     afx_msg LRESULT OnThrow(WPARAM, LPARAM) { throw std::runtime_error("from a handler"); }
+    afx_msg LRESULT OnThrowNumber(WPARAM, LPARAM) { throw 42; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -48,6 +50,9 @@ BEGIN_MESSAGE_MAP(Base, CWnd)
     ON_WM_CLOSE()
     ON_MESSAGE(Ask, &Base::OnAsk)
     ON_MESSAGE(Throw, &Base::OnThrow)
+    ON_MESSAGE(ThrowNumber, &Base::OnThrowNumber)
+    ON_MESSAGE(WM_CREATE, &Base::OnThrow)
+    ON_MESSAGE(WM_PAINT, &Base::OnThrow)
 END_MESSAGE_MAP()
 
 class Derived : public Base
@@ -134,6 +139,12 @@ TEST(Dispatch, AnExceptionEndsAtTheWindow)
     Base window;
     ASSERT_TRUE(window.SubclassWindow(NewWindow(L"STATIC")));
     EXPECT_EQ(window.SendMessage(Throw), 0);
+    EXPECT_EQ(window.SendMessage(ThrowNumber), 0);
+    EXPECT_EQ(window.SendMessage(WM_CREATE), -1) << "no window is made";
+    window.ShowWindow(SW_SHOW);
+    window.Invalidate();
+    EXPECT_EQ(window.SendMessage(WM_PAINT), 0);
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE)) << "else it would be sent without end";
     EXPECT_EQ(window.SendMessage(Ask, 2, 3), 6);
 }
 

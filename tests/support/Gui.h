@@ -180,3 +180,5 @@ bool HasUnfinishedFile(const CString& folder);
 
 std::vector<std::uint8_t> ReadBytes(const CString& path);
 bool WriteBytes(const CString& path, const std::vector<std::uint8_t>& bytes);
+/// As programs do that copy a file with its times.
+bool SetWrittenAt(const CString& path, std::uint64_t fileTime);

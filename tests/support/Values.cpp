@@ -126,6 +126,15 @@ bool WriteBytes(const CString& path, const std::vector<std::uint8_t>& bytes)
     return complete;
 }
 
+bool SetWrittenAt(const CString& path, std::uint64_t fileTime)
+{
+    const FILETIME time = {static_cast<DWORD>(fileTime), static_cast<DWORD>(fileTime >> 32)};
+    const HANDLE file = CreateFileW(path, FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    const BOOL set = SetFileTime(file, nullptr, nullptr, &time);
+    CloseHandle(file);
+    return set != FALSE;
+}
+
 bool StartAgain(const wchar_t* filter)
 {
     wchar_t program[MAX_PATH] = {};

@@ -25,6 +25,20 @@ constexpr DWORD IdleMilliseconds = 100;
 constexpr double LongestStep = 0.25;
 constexpr double HomeFlightSeconds = 1.0;
 
+/// Also ends with a frame that an exception leaves.
+class InFrame
+{
+public:
+    explicit InFrame(bool& flag) : flag_(flag) { flag_ = true; }
+    ~InFrame() { End(); }
+    InFrame(const InFrame&) = delete;
+    InFrame& operator=(const InFrame&) = delete;
+    void End() const { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
 } // namespace
 
 CameraPose CityHost::HomePose()
@@ -204,13 +218,13 @@ bool CityHost::Draw()
     {
         return false;
     }
-    inFrame_ = true;
+    const InFrame within(inFrame_);
     // Windows that came under the mouse since the last frame have set it; the frame's own events say where the mouse is.
     Frame().SetDisplySystemMouse(false);
     // Counted first: what comes in while the frame handles its events asks for another one.
     --framesDue_;
     viewer_->frame();
-    inFrame_ = false;
+    within.End();
     FollowFrame();
     return true;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PublishDialog.h"
 
+#include "../host/Guarded.h"
 #include "../host/Language.h"
 #include "../resources/resource.h"
 
@@ -78,7 +79,7 @@ void PublishDialog::OnOK()
         }
     }
     ShowWindow(SW_HIDE);
-    confirmed_(texts_);
+    Guarded("publishing", [this] { confirmed_(texts_); });
 }
 
 void PublishDialog::OnCancel()

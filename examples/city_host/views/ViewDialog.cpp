@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewDialog.h"
 
+#include "../host/Guarded.h"
 #include "../host/Language.h"
 #include "../resources/resource.h"
 
@@ -76,7 +77,7 @@ void ViewDialog::OnOK()
     }
     const bool newPicture = GetDlgItem(IDC_VIEW_NEW_PICTURE)->SendMessage(BM_GETCHECK) == BST_CHECKED;
     CDialog::OnOK();
-    confirmed_(caption_, newPicture);
+    Guarded("changing a control button", [&] { confirmed_(caption_, newPicture); });
 }
 
 } // namespace host

@@ -2,6 +2,8 @@
 // The main window's messages: a frame without a caption that moves and sizes like any other.
 #include "HostWindow.h"
 
+#include "../host/Guarded.h"
+
 #include <NxOsgCeGui/GuiTypes.h>
 
 #include <windowsx.h>
@@ -26,7 +28,13 @@ LRESULT CALLBACK HostWindow::MainProcedure(HWND window, UINT message, WPARAM wPa
                           reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
     }
     auto* host = reinterpret_cast<HostWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return host ? host->OnMain(window, message, wParam, lParam) : DefWindowProcW(window, message, wParam, lParam);
+    if (!host)
+    {
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    Guarded("a message of the main window", [&] { result = host->OnMain(window, message, wParam, lParam); });
+    return result;
 }
 
 LRESULT HostWindow::OnMain(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -2,6 +2,8 @@
 // The view's messages, after the viewer's own window procedure has seen them.
 #include "HostWindow.h"
 
+#include "../host/Guarded.h"
+
 #include <NxOsgCeGui/GuiTypes.h>
 
 #include <windowsx.h>
@@ -17,7 +19,13 @@ LRESULT CALLBACK HostWindow::ViewProcedure(HWND window, UINT message, WPARAM wPa
                           reinterpret_cast<LONG_PTR>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
     }
     auto* host = reinterpret_cast<HostWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return host ? host->OnView(window, message, wParam, lParam) : DefWindowProcW(window, message, wParam, lParam);
+    if (!host)
+    {
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    Guarded("a message of the view", [&] { result = host->OnView(window, message, wParam, lParam); });
+    return result;
 }
 
 LRESULT HostWindow::OnView(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
