@@ -33,16 +33,14 @@ TEST_F(ThumbnailFailureTest, a_file_that_is_no_picture_gives_no_thumbnail)
 
 TEST_F(ThumbnailFailureTest, damaged_tiff_files_give_a_thumbnail_or_one_line)
 {
-    const Bytes sound = ReadBytes(Write(L"sound.tiff", Motley(40, 30), L"image/tiff"));
-    int refused = 0;
-    for (unsigned int seed = 0; seed < 60; ++seed)
+    for (const wchar_t* file : damagedTiffFiles)
     {
-        SCOPED_TRACE(seed);
-        const bool made = !MakeThumbnail(L"caption", Write(L"damaged.tiff", Spoilt(sound, seed)), 7, 0).IsEmpty();
-        refused += !made;
+        SCOPED_TRACE(Utf8(file));
+        const Bytes bytes = ReadBytes(CString(NX_CORPUS) + file);
+        ASSERT_FALSE(bytes.empty());
+        const bool made = !MakeThumbnail(L"caption", Write(L"damaged.tiff", bytes), 7, 0).IsEmpty();
         EXPECT_EQ(TakeLog().size(), made ? 0u : 1u);
     }
-    EXPECT_GT(refused, 10);
 }
 
 TEST_F(ThumbnailFailureTest, after_a_failure_a_good_picture_is_composed)

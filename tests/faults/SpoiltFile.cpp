@@ -2,6 +2,7 @@
 #include "SpoiltFile.h"
 
 #include "platform/NativePath.h"
+#include "support/Spoiling.h"
 
 #include <widgets/Gdiplus.h>
 #include <widgets/ImageEncoder.h>
@@ -117,6 +118,11 @@ const std::vector<Spoiling>& MoreForPictures()
         {"a bitmap file", false, [](const CString& path) { return Replaced(path, Converted(path, L".bmp")); }},
         {"a GIF file", false, [](const CString& path) { return Replaced(path, Converted(path, L".gif")); }},
         {"a TIFF file", false, [](const CString& path) { return Replaced(path, Converted(path, L".tiff")); }},
+        {"a damaged TIFF file", true,
+         [](const CString& path) { return Replaced(path, ReadBytes(CString(NX_CORPUS) + damagedTiffFiles[0])); }},
+        {"a picture that unpacks to more than one may have", true,
+         [](const CString& path)
+         { return Replaced(path, ReadBytes(CString(NX_CORPUS) + L"\\picture\\larger_than_allowed.png")); }},
         {"a text", true,
          [](const CString& path) {
              return Replaced(path, {'n', 'o', ' ', 'p', 'i', 'c', 't', 'u', 'r', 'e'});

@@ -186,29 +186,20 @@ TEST(ImageFile, LeavesThePictureWhenAFileCannotBeRead)
 
 TEST(ImageFile, DamagedTiffFilesAreRefusedOrRead)
 {
-    CImage made;
-    ASSERT_TRUE(made.Create(Width, Height, 24));
-    Paint(made);
-    const TemporaryImage file(L"tiff");
-    ASSERT_EQ(made.Save(file.path), S_OK);
-    const std::vector<std::uint8_t> sound = FileBytes(file.path);
-    int refused = 0;
-    for (unsigned int seed = 0; seed < 400; ++seed)
+    for (const wchar_t* file : damagedTiffFiles)
     {
-        SCOPED_TRACE(seed);
-        WriteFileBytes(file.path, Spoilt(sound, seed));
+        SCOPED_TRACE(Utf8(file));
         CImage loaded;
-        refused += loaded.Load(file.path) != S_OK;
+        const HRESULT result = loaded.Load(CString(NX_CORPUS) + file);
+        EXPECT_EQ(result == S_OK, !loaded.IsNull());
     }
-    EXPECT_GT(refused, 50);
-    EXPECT_LT(refused, 400);
 }
 
 TEST(ImageFile, MoreThanABitmapMayHaveIsRefused)
 {
     // 16384 x 8192 pixels of a bit each, in 16 KB.
     const TemporaryImage file(L"png");
-    WriteFileBytes(file.path, FileBytes(CString(NX_PICTURE_CORPUS) + L"\\larger_than_allowed.png"));
+    WriteFileBytes(file.path, FileBytes(CString(NX_CORPUS) + L"\\picture\\larger_than_allowed.png"));
     CImage image;
     EXPECT_EQ(image.Load(file.path), E_FAIL);
     EXPECT_FALSE(image.Create(16384, 8192, 32));

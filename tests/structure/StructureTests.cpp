@@ -39,8 +39,8 @@ std::vector<SourceFile> AllSources()
 
 TEST(Structure, sources_are_found)
 {
-    for (const char* folder :
-         {"src/widgets", "src/panels", "src/control_buttons", "src/frame", "src/gui_host", "include", "services", "mfc"})
+    for (const char* folder : {"src/imaging", "src/widgets", "src/panels", "src/control_buttons", "src/frame", "src/gui_host",
+                               "include", "services", "mfc"})
     {
         EXPECT_FALSE(SourcesIn(folder).empty()) << folder;
     }
@@ -125,6 +125,39 @@ TEST(Structure, library_tells_no_platforms_apart)
             }
         }
     }
+}
+
+TEST(Structure, picture_files_are_decoded_and_bitmaps_made_where_sizes_are_checked)
+{
+    const std::vector<std::string> guarded = {"src/imaging/ImageDecoder.cpp", "src/widgets/Gdiplus.cpp",
+                                              "src/widgets/ImageEncoder.cpp", "mfc/atlimage.cpp", "mfc/atlimage_save.cpp"};
+    int found = 0;
+    for (const char* folder : {"src", "services", "mfc", "examples"})
+    {
+        for (const SourceFile& file : SourcesIn(folder))
+        {
+            for (const std::string& line : file.lines)
+            {
+                for (const char* maker : {"GdipCreateBitmapFrom", "GdipLoadImageFrom", "CreateDIBSection("})
+                {
+                    const bool makes = line.find(maker) != std::string::npos;
+                    found += makes;
+                    EXPECT_TRUE(!makes || std::count(guarded.begin(), guarded.end(), file.path)) << file.path << ": " << line;
+                }
+            }
+            // Microsoft's CImage has no limit of its own.
+            const auto holds = [&](const std::string& text)
+            {
+                return std::any_of(file.lines.begin(), file.lines.end(),
+                                   [&](const std::string& line) { return line.find(text) != std::string::npos; });
+            };
+            if (file.path.rfind("mfc/", 0) != 0 && holds("CImage ") && holds(".Load("))
+            {
+                EXPECT_TRUE(holds("IsSafeImageFile(")) << file.path;
+            }
+        }
+    }
+    EXPECT_GE(found, 5);
 }
 
 TEST(Structure, files_are_short)

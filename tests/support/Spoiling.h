@@ -6,6 +6,11 @@
 #include <iterator>
 #include <vector>
 
+/// TIFF files of the corpus, below its folder, that end a process in Wine's decoder.
+constexpr const wchar_t* damagedTiffFiles[] = {L"\\tiff\\damaged_plain.tiff", L"\\tiff\\damaged_lzw.tiff",
+                                               L"\\tiff\\damaged_tiles.tiff", L"\\tiff\\damaged_fax.tiff",
+                                               L"\\tiff\\damaged_big_endian_zip.tiff"};
+
 /// The bytes with a few of them changed, always the same ones for the same seed; every fourth loses its end as well.
 inline std::vector<std::uint8_t> Spoilt(std::vector<std::uint8_t> bytes, unsigned int seed)
 {
