@@ -85,7 +85,8 @@ CEGUI::Window* Find(const CEGUI::String& name)
 
 void Destroy(CEGUI::Window& window)
 {
-    window.removeAllEvents();
+    // Its subscriptions end with it, at the next frame: this may be running in one of its slots. Until then none is called.
+    window.setMutedState(true);
     if (CEGUI::Window* parent = window.getParent())
     {
         parent->removeChild(&window);
