@@ -58,9 +58,12 @@ void UpdateThumb(CeGuiToolBar& list)
         return;
     }
     const float width = static_cast<float>(list.rect.right - list.rect.left);
-    list.thumb->setSize(CEGUI::USize(CEGUI::UDim(ThumbWidth / width, 0), CEGUI::UDim(1 / ratio, 0)));
-    list.thumb->setPosition(CEGUI::UVector2(CEGUI::UDim((width - ThumbFromRight) / width, 0), CEGUI::UDim(0, 0)));
-    list.thumb->show();
+    list.thumb->setArea(CEGUI::UVector2(CEGUI::UDim((width - ThumbFromRight) / width, 0), CEGUI::UDim(0, 0)),
+                        CEGUI::USize(CEGUI::UDim(ThumbWidth / width, 0), CEGUI::UDim(1 / ratio, 0)));
+    if (list.thumb)
+    {
+        list.thumb->show();
+    }
 }
 } // namespace
 

@@ -13,6 +13,7 @@
 #include <CEGUI/Renderer.h>
 #include <CEGUI/System.h>
 #include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
 
 #include <algorithm>
 #include <array>
@@ -62,6 +63,11 @@ public:
     /// Shows the stretches that the item's present position brings into sight.
     void Update()
     {
+        if (!CEGUI::WindowManager::getSingleton().isAlive(&item_))
+        {
+            // A slot before this one has destroyed it.
+            return;
+        }
         const int top = static_cast<int>(std::lround(-item_.getYPosition().d_scale * static_cast<float>(place_)));
         const int first = std::max(0, top) / stretch_;
         const int last = std::min(std::max(0, top + place_ - 1), height_ - 1) / stretch_;
@@ -95,8 +101,12 @@ public:
         }
         const int top = number * stretch_;
         const float whole = static_cast<float>(height_);
-        slot.window->setPosition(CEGUI::UVector2(Relative(0), Relative(static_cast<float>(top) / whole)));
-        slot.window->setSize(CEGUI::USize(Relative(1), Relative(static_cast<float>(std::min(stretch_, height_ - top)) / whole)));
+        slot.window->setArea(CEGUI::UVector2(Relative(0), Relative(static_cast<float>(top) / whole)),
+                             CEGUI::USize(Relative(1), Relative(static_cast<float>(std::min(stretch_, height_ - top)) / whole)));
+        if (!slot.window)
+        {
+            return;
+        }
         FileImagesets::Apply(*slot.window, "Image", image);
         slot.window->invalidate();
         slot.shown = number;

@@ -72,8 +72,8 @@ void CeGuiToolBar::PlaceWindow(const RECT& place, UINT parentWidth, UINT parentH
 {
     const float width = static_cast<float>(parentWidth);
     const float height = static_cast<float>(parentHeight);
-    window->setSize(CEGUI::USize(Relative((place.right - place.left) / width), Relative((place.bottom - place.top) / height)));
-    window->setPosition(CEGUI::UVector2(Relative(place.left / width), Relative(place.top / height)));
+    window->setArea(CEGUI::UVector2(Relative(place.left / width), Relative(place.top / height)),
+                    CEGUI::USize(Relative((place.right - place.left) / width), Relative((place.bottom - place.top) / height)));
 }
 
 void CeGuiToolBar::MoveBar(const RECT& place, UINT parentWidth, UINT parentHeight)
@@ -229,11 +229,14 @@ void CeGuiToolBar::PlaceStaticItem(ToolBarItem& item, const RECT& place) const
     item.heightScale = (place.bottom - place.top) / height;
     item.xScale = place.left / width;
     item.yScale = place.top / height;
-    item.window->setPosition(CEGUI::UVector2(Relative(item.xScale), Relative(item.yScale)));
     // The limit is a share of the display, not of the bar: in a bar larger than that it would squeeze the item. 0 is no limit.
     item.window->setMaxSize(CEGUI::USize(Relative(width > static_cast<float>(screenWidth) ? 0 : item.widthScale),
                                          Relative(height > 2.0f * static_cast<float>(screenHeight) ? 0 : 2 * item.heightScale)));
-    item.window->setSize(CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
+    if (item.window)
+    {
+        item.window->setArea(CEGUI::UVector2(Relative(item.xScale), Relative(item.yScale)),
+                             CEGUI::USize(Relative(item.widthScale), Relative(item.heightScale)));
+    }
 }
 
 int CeGuiToolBar::AddStaticImage(const RECT& place, CString itemName, CString imageFile)

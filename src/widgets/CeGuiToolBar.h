@@ -45,8 +45,9 @@ enum BarType : UINT
 /// list and panel is one.
 ///
 /// The owner adds `window` to a parent and sets the layout fields; CEGUI owns the windows, and a bar forgets a window that is
-/// destroyed elsewhere. Deleting a bar leaves its windows alone: `DestroyToolBar` takes them away. Rectangles are view
-/// pixels (bar pixels for items). CEGUI gets relative coordinates only.
+/// destroyed elsewhere: a host may do that in a slot of an event that the bar itself raises by moving or hiding the window.
+/// Deleting a bar leaves its windows alone: `DestroyToolBar` takes them away. Rectangles are view pixels (bar pixels for items).
+/// CEGUI gets relative coordinates only.
 class CeGuiToolBar
 {
 public:
@@ -154,6 +155,7 @@ public:
 
 private:
     void PlaceWindow(const RECT& place, UINT parentWidth, UINT parentHeight);
+    void MoveWindow(int x, int y);
     void HideWindow();
     void EndSlide();
     void EndDrag();

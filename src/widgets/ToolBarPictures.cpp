@@ -21,8 +21,11 @@ bool CeGuiToolBar::ChangeItemImage(int index, CString imageFile, const RECT& pla
         FileImagesets::Destroy(imageFile);
         const CEGUI::Image& image = FileImagesets::Create(imageFile);
         PlaceStaticItem(*item, place);
-        FileImagesets::Apply(*item->window, "Image", image);
-        item->window->invalidate();
+        if (item->window)
+        {
+            FileImagesets::Apply(*item->window, "Image", image);
+            item->window->invalidate();
+        }
         UpdateContentExtent();
     }
     catch (const CEGUI::Exception& dropped)

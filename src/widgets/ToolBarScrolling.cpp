@@ -116,7 +116,10 @@ bool CeGuiToolBar::ScrollBy(float step)
     const float y = thumb->getYPosition().d_scale;
     const float end = 1 - thumb->getHeight().d_scale;
     SetY(*thumb, std::min(end, std::max(0.0f, y + step)));
-    MoveItemsWithThumb();
+    if (thumb)
+    {
+        MoveItemsWithThumb();
+    }
     return true;
 }
 

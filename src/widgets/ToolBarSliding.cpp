@@ -49,9 +49,11 @@ void CeGuiToolBar::AutoHideByMouse(CPoint point)
     if (showArmed)
     {
         EndSlide();
-        window->setPosition(CEGUI::UVector2(CEGUI::UDim(rect.left / static_cast<float>(screenWidth), 0),
-                                            CEGUI::UDim(rect.top / static_cast<float>(screenHeight), 0)));
-        window->show();
+        MoveWindow(rect.left, rect.top);
+        if (window)
+        {
+            window->show();
+        }
     }
 }
 
@@ -70,6 +72,15 @@ void CeGuiToolBar::SetSlideOnHide(bool slide)
     {
         slideOnHide = slide;
         EndSlide();
+    }
+}
+
+void CeGuiToolBar::MoveWindow(int x, int y)
+{
+    if (window)
+    {
+        window->setPosition(CEGUI::UVector2(CEGUI::UDim(static_cast<float>(x) / static_cast<float>(screenWidth), 0),
+                                            CEGUI::UDim(static_cast<float>(y) / static_cast<float>(screenHeight), 0)));
     }
 }
 
@@ -136,8 +147,7 @@ void CeGuiToolBar::OnHideTimer(UINT_PTR timerId)
         {
             break;
         }
-        window->setPosition(CEGUI::UVector2(CEGUI::UDim(x / static_cast<float>(screenWidth), 0),
-                                            CEGUI::UDim(y / static_cast<float>(screenHeight), 0)));
+        MoveWindow(x, y);
     }
     if (Same(animClock, 1.0))
     {

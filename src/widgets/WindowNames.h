@@ -36,6 +36,6 @@ const CEGUI::String& Of(const CEGUI::Window& window);
 /// live window: for single actions, not for every frame or mouse move.
 CEGUI::Window* Find(const CEGUI::String& name);
 
-/// Takes the window out of its parent, with all that is subscribed to it, and destroys it.
+/// Takes the window out of its parent, with all that is subscribed to it, and destroys it. A slot may destroy its own window.
 void Destroy(CEGUI::Window& window);
 } // namespace WindowNames

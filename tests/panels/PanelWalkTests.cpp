@@ -82,10 +82,9 @@ public:
         const int bottom = Host().Height() - (full ? 0 : Border);
         EXPECT_TRUE(Visible(PanelPicture));
         EXPECT_TRUE(Visible(ListPicture));
-        // CEGUI keeps a window as narrow as the view.
-        const int width = std::min(260, Host().Width());
-        ExpectNear(PanelFrame, {right - 260, top, right - 260 + width, bottom});
-        ExpectNear(ListFrame, {right - 260, top + 35, right - 260 + width, bottom - 10});
+        ExpectNear(PanelFrame, {right - 260, top, right, bottom});
+        ExpectNear(PanelPicture, {right - 260, top, right, bottom});
+        ExpectNear(ListFrame, {right - 260, top + 35, right, bottom - 10});
         const int rows = Frame().PropertyRowCount() * RowHeight;
         EXPECT_NEAR(GuiHost::Find(ListPicture)->getPixelSize().d_height, std::max(rows, bottom - 10 - top - 35), 1);
     }
