@@ -28,8 +28,9 @@ grep -q '^NX_BENCHMARK:BOOL=ON$' "$build/CMakeCache.txt" || cmake -DNX_BENCHMARK
 
 echo "==> measuring"
 mkdir -p "$root/out/bench"
-# A display of its own, and the library that counts allocations in nothing but the program.
-env -u DISPLAY LD_PRELOAD="$build/bin/libNxBenchCount.so" \
+# A display of its own, and the library that counts allocations. It is named without its folder: LD_PRELOAD splits at blanks, which
+# a list of folders may hold.
+env -u DISPLAY LD_LIBRARY_PATH="$build/bin${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" LD_PRELOAD=libNxBenchCount.so \
     "$root/tests/run_suite.sh" "$build/bin/NxBench.exe" "$root/app" "$build/bench/run" "$@" "$root/out/bench"
 case " $* " in
 *" --only "*) ;;

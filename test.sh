@@ -4,6 +4,8 @@
 #   test.sh [CTEST OPTIONS...]
 #   test.sh --sanitize [CTEST OPTIONS...]   the suites under the address sanitizer and the one for undefined behaviour, in a
 #                                           build folder of their own
+#   test.sh --poison [CTEST OPTIONS...]     the suites that draw scenes and read foreign files, with an allocator that fills fresh
+#                                           and freed memory and looks behind each block, in the system's libraries as well
 #   test.sh --windows                       after a plain run: library, services and host as true Windows programs, linked, and
 #                                           the tests that need no scene, run under Wine and counted against that run
 set -euo pipefail
@@ -20,6 +22,12 @@ if [ "${1:-}" = --sanitize ]; then
     export NX_WINE=$root/platform/winelib/run_sanitized.sh
     excluded=$(grep -vE '^(#|$)' "$root/tests/sanitizer_exclusions.txt" | paste -sd:)
     export GTEST_FILTER="-$excluded"
+    set -- -L suite "$@"
+fi
+if [ "${1:-}" = --poison ]; then
+    shift
+    export NX_WINE=$root/platform/winelib/run_poisoned.sh
+    [ $# -gt 0 ] || set -- -R '^(FuzzCorpus|GuiHostTests|OldSkinTests|WidgetTests)$'
     set -- -L suite "$@"
 fi
 "$root/platform/winelib/setup.sh"

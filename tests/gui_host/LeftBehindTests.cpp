@@ -161,6 +161,7 @@ TEST_F(LeftBehind, generic_vertex_array_does_not_take_the_place_of_the_interface
 TEST_F(LeftBehind, texture_units_are_not_those_of_the_interfaces_pictures)
 {
     // Without a program it is OpenGL's fixed functions that read the pictures, on a unit that has to be enabled for it.
+    Restart();
     osg::StateSet& states = *Drawable().getOrCreateStateSet();
     const osg::ref_ptr<osg::StateAttribute> program = states.getAttribute(osg::StateAttribute::PROGRAM);
     ASSERT_TRUE(program);
