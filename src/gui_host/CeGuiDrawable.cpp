@@ -179,7 +179,7 @@ void CeGuiDrawable::drawImplementation(osg::RenderInfo& renderInfo) const
     }
     else
     {
-        const GuiRenderer::Frame frame(*static_cast<GuiRenderer*>(renderer_), state);
+        const GuiRenderer::Frame frame(*static_cast<GuiRenderer*>(renderer_), renderInfo);
         state.disableAllVertexArrays();
         state.setClientActiveTextureUnit(0);
         state.setActiveTextureUnit(0);

@@ -10,6 +10,8 @@
 #include <CEGUI/RendererModules/OpenGL/ViewportTarget.h>
 #include <CEGUI/RenderingSurface.h>
 
+#include <osg/RenderInfo>
+
 #include <algorithm>
 #include <cmath>
 
@@ -279,9 +281,10 @@ GuiRenderer& GuiRenderer::Create()
     return *new GuiRenderer;
 }
 
-GuiRenderer::Frame::Frame(GuiRenderer& renderer, osg::State& state) : renderer_(renderer)
+GuiRenderer::Frame::Frame(GuiRenderer& renderer, osg::RenderInfo& info) : renderer_(renderer)
 {
-    renderer_.state_.Begin(state);
+    renderer_.textureWatch_.Draw(info);
+    renderer_.state_.Begin(*info.getState());
 }
 
 GuiRenderer::Frame::~Frame()

@@ -5,6 +5,7 @@
 #include <CEGUI/RendererModules/OpenGL/GLRenderer.h>
 
 #include "GlState.h"
+#include "TextureWatch.h"
 
 #include <CEGUI/RenderingSurface.h>
 
@@ -30,8 +31,8 @@ public:
     class Frame
     {
     public:
-        /// @param state of the context that is current and drawn with
-        Frame(GuiRenderer& renderer, osg::State& state);
+        /// @param info of the context that is current and drawn with
+        Frame(GuiRenderer& renderer, osg::RenderInfo& info);
         ~Frame();
         Frame(const Frame&) = delete;
         Frame& operator=(const Frame&) = delete;
@@ -90,6 +91,7 @@ private:
     void Forget(const Pictures& pictures);
 
     GlState state_;
+    TextureWatch textureWatch_;
     bool rendering_ = false; ///< between `beginRendering` and `endRendering`
     CEGUI::GUIContext* context_ = nullptr;
     /// The queue of `context_` that is drawn next.

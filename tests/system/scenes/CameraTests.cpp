@@ -6,7 +6,7 @@
 #include <osg/Geometry>
 #include <osg/LightSource>
 #include <osgShadow/ShadowedScene>
-#include <osgShadow/StandardShadowMap>
+#include <osgShadow/ShadowMap>
 
 namespace
 {
@@ -40,6 +40,12 @@ protected:
     {
         Frame().SetRenderOrder(0);
         UnderState::TearDown();
+    }
+    static int DrawsInAFrame()
+    {
+        int draws = 0;
+        Draw([&] { ++draws; }, [] {});
+        return draws;
     }
 };
 } // namespace
@@ -98,6 +104,7 @@ private:
     osg::ref_ptr<osg::Camera> camera_ = new osg::Camera;
 };
 
+// Not of the view-dependent techniques: with them this version of OpenSceneGraph may wait for itself when the viewer ends.
 osg::ref_ptr<osgShadow::ShadowedScene> Shadowed(osgShadow::ShadowTechnique* technique)
 {
     const osg::ref_ptr<osgShadow::ShadowedScene> shadowed = new osgShadow::ShadowedScene(technique);
@@ -152,13 +159,13 @@ protected:
 
 TEST_F(SceneShadow, around_the_interfaces_node_hides_it_and_is_logged_once)
 {
-    UseTechnique(new osgShadow::StandardShadowMap);
+    UseTechnique(new osgShadow::ShadowMap);
     shadowed_->addChild(gui_);
     Host().Frames(90);
     EXPECT_EQ(TakeLog(), Lines{});
     Host().Frames(20);
     EXPECT_EQ(TakeLog(), Lines{"NxOsgCeGui: interface drawn into another camera's texture only (its node belongs outside of a "
-                               "shadowed scene): camera ShadowCamera"});
+                               "shadowed scene): a camera without a name"});
     EXPECT_FALSE(IsSeen());
     Host().Frames(120);
     EXPECT_EQ(TakeLog(), Lines{});
@@ -166,7 +173,7 @@ TEST_F(SceneShadow, around_the_interfaces_node_hides_it_and_is_logged_once)
 
 TEST_F(SceneShadow, beside_the_interfaces_node_leaves_it_seen)
 {
-    UseTechnique(new osgShadow::StandardShadowMap);
+    UseTechnique(new osgShadow::ShadowMap);
     Host().Root().addChild(gui_);
     EXPECT_TRUE(IsSeen());
     Host().Frames(110);
@@ -174,7 +181,7 @@ TEST_F(SceneShadow, beside_the_interfaces_node_leaves_it_seen)
 
 TEST_F(SceneShadow, around_the_interfaces_node_without_the_bits_of_shadows_leaves_it_seen)
 {
-    UseTechnique(new osgShadow::StandardShadowMap);
+    UseTechnique(new osgShadow::ShadowMap);
     gui_->setNodeMask(~(shadowed_->getReceivesShadowTraversalMask() | shadowed_->getCastsShadowTraversalMask()));
     shadowed_->addChild(gui_);
     EXPECT_TRUE(IsSeen());
@@ -183,10 +190,9 @@ TEST_F(SceneShadow, around_the_interfaces_node_without_the_bits_of_shadows_leave
 
 TEST_F(SceneCamera, of_a_second_view_in_the_same_context_draws_the_interface_twice_by_design)
 {
-    const Screenshot once = Host().Shoot();
-    SecondView second(Host());
+    const SecondView second(Host());
     Host().Frames(2);
-    EXPECT_GT(Different(Host().Shoot(), once), 0) << "translucent parts are blended twice";
+    EXPECT_EQ(DrawsInAFrame(), 2);
 }
 
 TEST_F(SceneCamera, of_a_second_view_whose_cull_mask_lacks_a_bit_of_the_interfaces_node_draws_it_once)
@@ -199,6 +205,7 @@ TEST_F(SceneCamera, of_a_second_view_whose_cull_mask_lacks_a_bit_of_the_interfac
         second.Camera().setInheritanceMask(second.Camera().getInheritanceMask() & ~osg::CullSettings::CULL_MASK);
         second.Camera().setCullMask(~InterfaceBit);
         Host().Frames(2);
+        EXPECT_EQ(DrawsInAFrame(), 1);
         EXPECT_EQ(Different(Host().Shoot(), once), 0);
         Host().Click(772, 25);
         EXPECT_EQ(Host().TakeCodes(), Codes{15}) << "input arrives";

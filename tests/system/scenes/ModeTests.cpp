@@ -110,6 +110,8 @@ protected:
             : (bits & BufferObjects) != 0    ? osg::DisplaySettings::VERTEX_BUFFER_OBJECT
                                              : osg::DisplaySettings::NO_PREFERENCE);
         other_ = std::make_unique<GuiHost>(ViewWidth, ViewHeight, scene);
+        // Windows being made warn of what they try in vain.
+        warnings_ = std::make_unique<WarningsTaken>();
         osg::State& state = HostState(*other_);
         state.setUseModelViewAndProjectionUniforms((bits & Uniforms) != 0);
         state.resetVertexAttributeAlias((bits & SpreadAttributes) == 0);
