@@ -139,7 +139,8 @@ TEST_F(EarlyStart, with_a_spoilt_skin_is_tried_again_with_the_next_size_event)
         const FileTaken scheme(SkinDir() + L"TavLookSkin.scheme");
         SizeEvent();
         EXPECT_FALSE(IsShown());
-        const Lines log = TakeLog();
+        // Those since the start that failed.
+        const Lines log = LogLines();
         ASSERT_EQ(log.size(), 1u);
         EXPECT_NE(log[0].find("TavLookSkin.scheme"), std::string::npos) << log[0];
     }
