@@ -50,8 +50,8 @@ bool DecodeThroughGdiplus(const std::uint8_t* data, std::size_t size, RgbaPictur
 bool DecodePicture(const std::uint8_t* data, std::size_t size, RgbaPicture& picture)
 {
     bool alpha = false;
-    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture, alpha) || ReadTiffFile(data, size, picture, alpha) ||
-           DecodeThroughGdiplus(data, size, picture);
+    return ReadBmpFile(data, size, picture) || ReadPngFile(data, size, picture, alpha) ||
+           ReadTiffFile(data, size, picture, alpha) || DecodeThroughGdiplus(data, size, picture);
 }
 
 GuiImageCodec::GuiImageCodec() : ImageCodec("NxOsgCeGui picture codec")

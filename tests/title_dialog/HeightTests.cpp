@@ -47,6 +47,7 @@ TEST_F(HeightTest, numbers_up_to_100_are_taken)
         EXPECT_FALSE(IsShown()) << Utf8(text);
         EXPECT_EQ(Frame().GetSceneTitleFontHeight(), height) << Utf8(text);
         EXPECT_NE(Place("TavTilteText"), "no window");
+        EXPECT_EQ(TakeLog().size(), height < 1.0f ? 1u : 0u) << "a text of no whole pixel is left out";
     }
 }
 
@@ -173,6 +174,7 @@ TEST_F(HeightTest, a_hosts_height_outside_the_limits_is_shown_as_one_inside)
         OpenTitleEditDialog();
         EXPECT_EQ(Height(), shown) << height;
         Confirm();
+        EXPECT_EQ(TakeLog().size(), Frame().GetSceneTitleFontHeight() < 1.0f ? 1u : 0u);
         EXPECT_FALSE(IsShown());
         CloseTitleEditDialog();
     }
