@@ -119,7 +119,7 @@ const std::vector<Spoiling>& MoreForPictures()
         {"a GIF file", false, [](const CString& path) { return Replaced(path, Converted(path, L".gif")); }},
         {"a TIFF file", false, [](const CString& path) { return Replaced(path, Converted(path, L".tiff")); }},
         {"a damaged TIFF file", true,
-         [](const CString& path) { return Replaced(path, ReadBytes(CString(NX_CORPUS) + damagedTiffFiles[0])); }},
+         [](const CString& path) { return Replaced(path, ReadBytes(CString(NX_CORPUS) + damagedTiffFiles[1])); }},
         {"a picture that unpacks to more than one may have", true,
          [](const CString& path)
          { return Replaced(path, ReadBytes(CString(NX_CORPUS) + L"\\picture\\larger_than_allowed.png")); }},
