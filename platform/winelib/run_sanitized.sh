@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 # Starts a program that was built with the sanitizers (NX_SANITIZE); run_wine.sh calls it in place of Wine.
 #   run_sanitized.sh PROGRAM.exe.so [ARGUMENTS...]
-# Not looked for: leaks, since Wine keeps what it has until its process ends.
+# docs/testing.md has the reason of each switch.
 set -euo pipefail
 preloaded="$(gcc -print-file-name=libasan.so) $(gcc -print-file-name=libstdc++.so.6)"
 export ASAN_OPTIONS=detect_leaks=0:handle_segv=0:use_sigaltstack=0:alloc_dealloc_mismatch=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}
