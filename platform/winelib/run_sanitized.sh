@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 # Starts a program that was built with the sanitizers (NX_SANITIZE); run_wine.sh calls it in place of Wine.
 #   run_sanitized.sh PROGRAM.exe.so [ARGUMENTS...]
-# Not looked for: leaks, since Wine keeps what it has until its process ends.
+# docs/testing.md has the reason of each switch.
 set -euo pipefail
 preloaded="$(gcc -print-file-name=libasan.so) $(gcc -print-file-name=libstdc++.so.6)"
-export ASAN_OPTIONS=detect_leaks=0:handle_segv=0:use_sigaltstack=0:alloc_dealloc_mismatch=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+export ASAN_OPTIONS=detect_leaks=0:handle_segv=0:use_sigaltstack=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 export UBSAN_OPTIONS=print_stacktrace=1${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}
 # A sanitized process cannot start Wine's desktop process, so that another program's is kept alive beside it. The sanitizer's
 # library is handed to this process alone, without the environment that Wine's own processes inherit.
