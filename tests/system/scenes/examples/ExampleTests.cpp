@@ -2,6 +2,7 @@
 // OpenSceneGraph's own examples as hosts. NX_SCENES=all runs each in every setting; else those marked "short" run in some.
 #include "ExampleHost.h"
 #include "ExampleJudge.h"
+#include "SampleData.h"
 
 #include "support/GTest.h"
 
@@ -72,7 +73,7 @@ class JudgeLifeTime : public testing::Environment
 public:
     void SetUp() override
     {
-        osgDB::Registry::instance()->getDataFilePathList().push_back(NX_EXAMPLE_DATA);
+        osgDB::Registry::instance()->getDataFilePathList().push_back(MakeSampleData());
         ExampleJudge::Instance().Begin();
     }
     void TearDown() override { ExampleJudge::Instance().End(); }

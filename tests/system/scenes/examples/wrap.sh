@@ -17,7 +17,7 @@ sources=$(cd "$folder" && ls -- *.cpp)
     echo '#define Viewer ExampleViewer'
     echo '#define main Main'
     for source in $sources; do
-        echo "#include \"$folder/$source\""
+        echo "#include <$name/$source>"
     done
     echo '#undef main'
     echo '#undef Viewer'
