@@ -6,7 +6,8 @@ set -euo pipefail
 package=$1
 target=$2
 shift 2
-marker=$target/complete
+# Other patterns than the last time's are fetched anew.
+marker=$target/complete-$(printf '%s ' "$@" | cksum | cut -d " " -f 1)
 [ -e "$marker" ] && exit 0
 mkdir -p "$target/apt/lists/partial" "$target/apt/cache/archives/partial"
 work=$(cd "$target" && pwd)

@@ -6,6 +6,8 @@
 #include <osg/Geometry>
 #include <osg/LightSource>
 #include <osgShadow/ShadowedScene>
+
+#include <memory>
 #include <osgShadow/ShadowMap>
 
 namespace
@@ -211,4 +213,50 @@ TEST_F(SceneCamera, of_a_second_view_whose_cull_mask_lacks_a_bit_of_the_interfac
         EXPECT_EQ(Host().TakeCodes(), Codes{15}) << "input arrives";
     }
     Frame().GetGUINode()->setNodeMask(~0u);
+}
+
+namespace
+{
+/// The main camera without a context, which a slave has instead.
+class ContextAtASlaveOnly
+{
+public:
+    explicit ContextAtASlaveOnly(GuiHost& host)
+        : main_(*host.Viewer().getCamera()), context_(main_.getGraphicsContext()), viewport_(main_.getViewport()),
+          view_(std::make_unique<SecondView>(host))
+    {
+        view_->Camera().setClearMask(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+        main_.setGraphicsContext(nullptr);
+    }
+    ~ContextAtASlaveOnly()
+    {
+        view_.reset();
+        main_.setGraphicsContext(context_);
+        main_.setViewport(viewport_);
+    }
+
+private:
+    osg::Camera& main_;
+    osg::ref_ptr<osg::GraphicsContext> context_;
+    osg::ref_ptr<osg::Viewport> viewport_;
+    std::unique_ptr<SecondView> view_;
+};
+} // namespace
+
+TEST_F(SceneCamera, without_a_context_of_its_own_shows_no_interface_and_is_logged_once)
+{
+    Host().Close();
+    TakeLog();
+    {
+        const ContextAtASlaveOnly slave(Host());
+        EXPECT_TRUE(Frame().Init(&Host().Viewer(), GUI_USER_FULL));
+        Host().Root().addChild(Frame().GetGUINode());
+        for (int frame = 0; frame < 4; ++frame)
+        {
+            EXPECT_EQ(Draw([] {}, [] {}).errors, Lines{}) << frame;
+        }
+        Host().Close();
+    }
+    EXPECT_EQ(TakeLog().size(), 1u);
+    Restart();
 }
