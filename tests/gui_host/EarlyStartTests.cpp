@@ -7,6 +7,8 @@
 #include <CEGUI/Exceptions.h>
 #include <CEGUI/GUIContext.h>
 #include <CEGUI/System.h>
+#include <CEGUI/Window.h>
+#include <CEGUI/WindowManager.h>
 
 #include <osg/Geode>
 
@@ -202,9 +204,19 @@ TEST_F(EarlyStart, a_copy_beside_it_leaves_each_event_told_once)
     Frame().Init(viewer_, GUI_USER_FULL);
     const osg::ref_ptr<osg::Group> node = Frame().GetGUINode();
     root_->addChild(node);
-    root_->addChild(static_cast<osg::Node*>(node->clone(osg::CopyOp::DEEP_COPY_ALL)));
+    // The copy shares the event callback.
+    root_->addChild(static_cast<osg::Node*>(node->clone(osg::CopyOp::DEEP_COPY_NODES | osg::CopyOp::DEEP_COPY_DRAWABLES)));
     SizeEvent();
     EXPECT_TRUE(IsShown());
+    int built = 0;
+    auto connection = CEGUI::WindowManager::getSingleton().subscribeEvent(
+        CEGUI::WindowManager::EventWindowCreated,
+        CEGUI::Event::Subscriber(
+            [&built](const CEGUI::EventArgs& args)
+            { return built += static_cast<const CEGUI::WindowEventArgs&>(args).window->getType() == "DefaultWindow", true; }));
+    SizeEvent();
+    connection->disconnect();
+    EXPECT_EQ(built, 1) << "root sheets";
     viewer_->getEventQueue()->keyPress(osgGA::GUIEventAdapter::KEY_Left);
     viewer_->getEventQueue()->keyRelease(osgGA::GUIEventAdapter::KEY_Left);
     Frames(1);
