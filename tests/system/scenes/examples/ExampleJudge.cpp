@@ -272,6 +272,7 @@ void ExampleJudge::Judge(osgViewer::ExampleViewer& viewer)
         viewer.setSceneData(root_);
         viewer.getCamera()->setViewMatrix(view);
     }
+    viewer.getEventQueue()->windowResize(0, 0, Width, Height);
     for (int i = 0; i < 5; ++i)
     {
         Pump();
