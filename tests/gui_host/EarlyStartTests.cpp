@@ -204,8 +204,12 @@ TEST_F(EarlyStart, a_copy_beside_it_leaves_each_event_told_once)
     Frame().Init(viewer_, GUI_USER_FULL);
     const osg::ref_ptr<osg::Group> node = Frame().GetGUINode();
     root_->addChild(node);
-    // The copy shares the event callback.
-    root_->addChild(static_cast<osg::Node*>(node->clone(osg::CopyOp::DEEP_COPY_NODES | osg::CopyOp::DEEP_COPY_DRAWABLES)));
+    const auto drawableOf = [](osg::Group& group) { return group.getChild(0)->asGeode()->getDrawable(0); };
+    const osg::ref_ptr<osg::Group> copy =
+        static_cast<osg::Group*>(node->clone(osg::CopyOp::DEEP_COPY_NODES | osg::CopyOp::DEEP_COPY_DRAWABLES));
+    ASSERT_NE(drawableOf(*copy), drawableOf(*node));
+    root_->addChild(copy);
+    drawableOf(*copy)->setEventCallback(drawableOf(*node)->getEventCallback());
     SizeEvent();
     EXPECT_TRUE(IsShown());
     int built = 0;
