@@ -6,6 +6,7 @@
 #include "../widgets/FailureLog.h"
 #include "../widgets/InputState.h"
 #include "../widgets/Names.h"
+#include "../widgets/WholePixels.h"
 
 #include <NxOsgCeGui/CeGuiDrawable.h>
 #include <NxOsgCeGui/CeGuiMainFrame.h>
@@ -177,8 +178,8 @@ CSize ViewSize(const Event& ea, osgGA::GUIActionAdapter& aa)
     {
         if (const osg::Viewport* viewport = viewer->getCamera()->getViewport())
         {
-            width = static_cast<int>(viewport->width());
-            height = static_cast<int>(viewport->height());
+            width = WholePixels(viewport->width());
+            height = WholePixels(viewport->height());
         }
     }
     return CSize(width, height);
@@ -221,7 +222,7 @@ bool CeGuiEventHandler::handle(const Event& ea, osgGA::GUIActionAdapter& aa, osg
     }
     // The viewer's y axis points up, CEGUI's down.
     const Position mouse = {ea.getX(), static_cast<float>(ea.getWindowHeight()) - ea.getY()};
-    InputState::Get().mousePoint = CPoint(static_cast<int>(mouse.x), static_cast<int>(mouse.y));
+    InputState::Get().mousePoint = CPoint(WholePixels(mouse.x), WholePixels(mouse.y));
     const bool resized = ea.getEventType() == Event::RESIZE;
     // A size event starts CEGUI when the interface waits for a context.
     if (!drawable->IsInitialised() && !(isOwn && resized))

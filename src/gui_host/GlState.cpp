@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GlState.h"
 
+#include "GlNames.h"
+
 #include <osg/GLExtensions>
 #include <osg/State>
 #include <osg/Uniform>
@@ -9,165 +11,27 @@
 #include <algorithm>
 #include <cstddef>
 
+using namespace GlNames;
+
 namespace
 {
-// Names that the headers of OpenGL 1.1 lack.
-constexpr unsigned int ActiveTexture = 0x84E0;
-constexpr unsigned int ArrayBuffer = 0x8892;
-constexpr unsigned int ArrayBufferBinding = 0x8894;
-constexpr unsigned int BlendDestinationAlpha = 0x80CA;
-constexpr unsigned int BlendDestinationRgb = 0x80C8;
-constexpr unsigned int BlendEquationAlpha = 0x883D;
-constexpr unsigned int BlendEquationRgb = 0x8009;
-constexpr unsigned int BlendSourceAlpha = 0x80CB;
-constexpr unsigned int BlendSourceRgb = 0x80C9;
-constexpr unsigned int ClientActiveTexture = 0x84E1;
-constexpr unsigned int ClipDepthMode = 0x935D;
-constexpr unsigned int ClipDistance0 = 0x3000;
-constexpr unsigned int ClipOrigin = 0x935C;
-constexpr unsigned int ColorSum = 0x8458;
-constexpr unsigned int CurrentProgram = 0x8B8D;
-constexpr unsigned int DrawFramebuffer = 0x8CA9;
-constexpr unsigned int DrawFramebufferBinding = 0x8CA6;
-constexpr unsigned int FogCoordinateArray = 0x8457;
-constexpr unsigned int FramebufferSrgb = 0x8DB9;
-constexpr unsigned int FunctionAdd = 0x8006;
-constexpr unsigned int LowerLeft = 0x8CA1;
-constexpr unsigned int MaxTextureCoordinates = 0x8871;
-constexpr unsigned int MaxTextureUnits = 0x84E2;
-constexpr unsigned int MaxVertexAttributes = 0x8869;
-constexpr unsigned int NegativeOneToOne = 0x935E;
-constexpr unsigned int ProgramPipelineBinding = 0x825A;
-constexpr unsigned int ReadFramebuffer = 0x8CA8;
-constexpr unsigned int ReadFramebufferBinding = 0x8CAA;
-constexpr unsigned int SampleAlphaToCoverage = 0x809E;
-constexpr unsigned int SampleAlphaToOne = 0x809F;
-constexpr unsigned int SampleCoverage = 0x80A0;
-constexpr unsigned int SampleMask = 0x8E51;
-constexpr unsigned int SamplerBinding = 0x8919;
-constexpr unsigned int SecondaryColorArray = 0x845E;
-constexpr unsigned int StreamDraw = 0x88E0;
-constexpr unsigned int Texture0 = 0x84C0;
-constexpr unsigned int Texture3D = 0x806F;
-constexpr unsigned int TextureCubeMap = 0x8513;
-constexpr unsigned int TextureRectangle = 0x84F5;
-constexpr unsigned int VertexArrayBinding = 0x85B5;
-constexpr unsigned int VertexProgramTwoSide = 0x8643;
-
 constexpr float Identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 } // namespace
 
-GlState::GlState() = default;
-
-GlState::~GlState()
-{
-    if (sampler_ != 0)
-    {
-        extensions_->glDeleteSamplers(1, &sampler_);
-    }
-    if (ownArray_ != 0)
-    {
-        extensions_->glDeleteVertexArrays(1, &ownArray_);
-        extensions_->glDeleteBuffers(1, &ownBuffer_);
-    }
-}
-
-void GlState::LearnContext(osg::State& state)
-{
-    extensions_ = state.get<osg::GLExtensions>();
-    // A window that was closed and made again has another context, in which there is no sampler yet.
-    if (contextState_.get() == &state && (sampler_ == 0 || extensions_->glIsSampler(sampler_)))
-    {
-        return;
-    }
-    contextState_ = &state;
-    const float version = extensions_->glVersion;
-    const auto has = [&](const char* extension, float since)
-    { return osg::isGLExtensionOrVersionSupported(state.getContextID(), extension, since); };
-
-    hasVertexArrayObjects_ = has("GL_ARB_vertex_array_object", 3.0f);
-    ownArray_ = 0;
-    sampler_ = 0;
-    hasSamplers_ = has("GL_ARB_sampler_objects", 3.3f);
-    if (hasSamplers_)
-    {
-        extensions_->glGenSamplers(1, &sampler_);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-        extensions_->glSamplerParameteri(sampler_, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    }
-    hasPipelines_ = has("GL_ARB_separate_shader_objects", 4.1f);
-    attributeDepth_ = SystemGl::Get(GL_MAX_ATTRIB_STACK_DEPTH);
-    clientDepth_ = SystemGl::Get(GL_MAX_CLIENT_ATTRIB_STACK_DEPTH);
-    vertexAttributes_ = version >= 2.0f ? static_cast<unsigned int>(SystemGl::Get(MaxVertexAttributes)) : 0;
-    textureCoordinates_ = static_cast<unsigned int>(SystemGl::Get(version >= 2.0f ? MaxTextureCoordinates : MaxTextureUnits));
-
-    capabilities_.clear();
-    const auto want = [this](unsigned int name, bool wanted) { capabilities_.push_back({name, wanted, false}); };
-    for (const unsigned int name : {GL_BLEND, GL_SCISSOR_TEST, GL_TEXTURE_2D})
-    {
-        want(name, true);
-    }
-    for (const unsigned int name :
-         {GL_ALPHA_TEST, GL_COLOR_LOGIC_OP, GL_CULL_FACE, GL_DEPTH_TEST, GL_FOG, GL_LIGHTING, GL_POLYGON_SMOOTH,
-          GL_POLYGON_STIPPLE, GL_STENCIL_TEST, GL_TEXTURE_GEN_S, GL_TEXTURE_GEN_T, GL_TEXTURE_GEN_R, GL_TEXTURE_GEN_Q})
-    {
-        want(name, false);
-    }
-    for (const unsigned int name : {ColorSum, SampleAlphaToCoverage, SampleAlphaToOne, SampleCoverage})
-    {
-        want(name, false);
-    }
-    for (unsigned int plane = 0; plane < static_cast<unsigned int>(SystemGl::Get(GL_MAX_CLIP_PLANES)); ++plane)
-    {
-        want(ClipDistance0 + plane, false);
-    }
-    if (version >= 2.0f)
-    {
-        want(VertexProgramTwoSide, false);
-    }
-    if (has("GL_ARB_framebuffer_sRGB", 3.0f))
-    {
-        want(FramebufferSrgb, false);
-    }
-    if (has("GL_ARB_texture_multisample", 3.2f))
-    {
-        want(SampleMask, false);
-    }
-
-    unitTargets_.clear();
-    const bool rectangles = has("GL_ARB_texture_rectangle", 3.1f);
-    for (unsigned int unit = 0; unit < static_cast<unsigned int>(SystemGl::Get(MaxTextureUnits)); ++unit)
-    {
-        for (const unsigned int target : {static_cast<unsigned int>(GL_TEXTURE_1D), Texture3D, TextureCubeMap, TextureRectangle})
-        {
-            if (target != TextureRectangle || rectangles)
-            {
-                unitTargets_.push_back({unit, target, false});
-            }
-        }
-        if (unit != 0)
-        {
-            unitTargets_.push_back({unit, GL_TEXTURE_2D, false});
-        }
-    }
-}
-
 void GlState::Begin(osg::State& state)
 {
-    LearnContext(state);
+    context_.Learn(state);
     state_ = &state;
     set_ = false;
     unit_ = SystemGl::Get(ActiveTexture);
     clientUnit_ = SystemGl::Get(ClientActiveTexture);
     trackedUnit_ = state.getActiveTextureUnit();
     trackedClientUnit_ = state.getClientActiveTextureUnit();
-    vertexArray_ = hasVertexArrayObjects_ ? SystemGl::Get(VertexArrayBinding) : 0;
+    vertexArray_ = context_.hasVertexArrayObjects ? SystemGl::Get(VertexArrayBinding) : 0;
     const osg::VertexArrayState* tracked = state.getCurrentVertexArrayState();
-    if (tracked && hasVertexArrayObjects_ && static_cast<int>(tracked->getVertexArrayObject()) != vertexArray_)
+    if (tracked && context_.hasVertexArrayObjects && static_cast<int>(tracked->getVertexArrayObject()) != vertexArray_)
     {
-        extensions_->glBindVertexArray(tracked->getVertexArrayObject());
+        context_.extensions->glBindVertexArray(tracked->getVertexArrayObject());
     }
 }
 
@@ -176,16 +40,16 @@ void GlState::Set()
     set_ = true;
     nearest_ = false;
     // OpenSceneGraph need not know of the units that are active.
-    extensions_->glActiveTexture(Texture0);
-    extensions_->glClientActiveTexture(Texture0);
-    program_ = extensions_->glUseProgram ? SystemGl::Get(CurrentProgram) : 0;
+    context_.extensions->glActiveTexture(Texture0);
+    context_.extensions->glClientActiveTexture(Texture0);
+    program_ = context_.extensions->glUseProgram ? SystemGl::Get(CurrentProgram) : 0;
     fixed_ = program_ == 0;
-    drawBuffer_ = extensions_->glBindFramebuffer ? SystemGl::Get(DrawFramebufferBinding) : 0;
-    readBuffer_ = extensions_->glBindFramebuffer ? SystemGl::Get(ReadFramebufferBinding) : 0;
-    boundSampler_ = hasSamplers_ ? SystemGl::Get(SamplerBinding) : 0;
+    drawBuffer_ = context_.extensions->glBindFramebuffer ? SystemGl::Get(DrawFramebufferBinding) : 0;
+    readBuffer_ = context_.extensions->glBindFramebuffer ? SystemGl::Get(ReadFramebufferBinding) : 0;
+    boundSampler_ = context_.hasSamplers ? SystemGl::Get(SamplerBinding) : 0;
     if (boundSampler_ != 0)
     {
-        extensions_->glBindSampler(0, 0);
+        context_.extensions->glBindSampler(0, 0);
     }
     SetArrays();
     SystemGl::Get(GL_MODELVIEW_MATRIX, modelView_);
@@ -194,7 +58,7 @@ void GlState::Set()
     values_.matrixMode = SystemGl::Get(GL_MATRIX_MODE);
     // Not every driver saves this one with the others.
     colorSum_ = SystemGl::IsEnabled(ColorSum);
-    pushed_ = SystemGl::Get(GL_ATTRIB_STACK_DEPTH) < attributeDepth_;
+    pushed_ = SystemGl::Get(GL_ATTRIB_STACK_DEPTH) < context_.attributeDepth;
     if (pushed_)
     {
         SystemGl::PushState();
@@ -203,7 +67,7 @@ void GlState::Set()
     {
         SaveValues();
     }
-    for (const Capability& capability : capabilities_)
+    for (const GlContext::Capability& capability : context_.capabilities)
     {
         SystemGl::Enable(capability.name, capability.wanted);
     }
@@ -215,10 +79,10 @@ void GlState::Set()
     SystemGl::ShadeModel(GL_SMOOTH);
     SystemGl::ColorMask(true, true, true, true);
     SystemGl::TextureMode(GL_MODULATE);
-    extensions_->glBlendEquation(FunctionAdd);
-    if (extensions_->glClipControl)
+    context_.extensions->glBlendEquation(FunctionAdd);
+    if (context_.extensions->glClipControl)
     {
-        extensions_->glClipControl(LowerLeft, NegativeOneToOne);
+        context_.extensions->glClipControl(LowerLeft, NegativeOneToOne);
     }
     SystemGl::LoadMatrix(GL_TEXTURE, Identity);
     UseModelMatrix(Identity);
@@ -227,23 +91,23 @@ void GlState::Set()
 void GlState::SetArrays()
 {
     arrayBuffer_ = SystemGl::Get(ArrayBufferBinding);
-    clientPushed_ = SystemGl::Get(GL_CLIENT_ATTRIB_STACK_DEPTH) < clientDepth_;
+    clientPushed_ = SystemGl::Get(GL_CLIENT_ATTRIB_STACK_DEPTH) < context_.clientDepth;
     if (UsesOwnArray())
     {
         // The arrays that are in use cannot be saved, so others are used, which have to lie in a buffer object.
-        if (ownArray_ == 0)
+        if (context_.ownArray == 0)
         {
-            extensions_->glGenVertexArrays(1, &ownArray_);
-            extensions_->glGenBuffers(1, &ownBuffer_);
+            context_.extensions->glGenVertexArrays(1, &context_.ownArray);
+            context_.extensions->glGenBuffers(1, &context_.ownBuffer);
         }
-        extensions_->glBindVertexArray(ownArray_);
+        context_.extensions->glBindVertexArray(context_.ownArray);
     }
     else
     {
-        if (hasVertexArrayObjects_)
+        if (context_.hasVertexArrayObjects)
         {
             // Arrays in memory are allowed in OpenGL's own vertex-array object alone.
-            extensions_->glBindVertexArray(0);
+            context_.extensions->glBindVertexArray(0);
         }
         if (clientPushed_)
         {
@@ -252,13 +116,13 @@ void GlState::SetArrays()
         DisableFoundArrays();
     }
     // A buffer object left bound would turn arrays in memory into offsets.
-    extensions_->glBindBuffer(ArrayBuffer, UsesOwnArray() ? ownBuffer_ : 0);
+    context_.extensions->glBindBuffer(ArrayBuffer, UsesOwnArray() ? context_.ownBuffer : 0);
     SystemGl::EnableVertexArrays();
     if (state_->getUseVertexAttributeAliasing())
     {
-        extensions_->glEnableVertexAttribArray(state_->getVertexAlias()._location);
-        extensions_->glEnableVertexAttribArray(state_->getColorAlias()._location);
-        extensions_->glEnableVertexAttribArray(state_->getTexCoordAliasList().front()._location);
+        context_.extensions->glEnableVertexAttribArray(state_->getVertexAlias()._location);
+        context_.extensions->glEnableVertexAttribArray(state_->getColorAlias()._location);
+        context_.extensions->glEnableVertexAttribArray(state_->getTexCoordAliasList().front()._location);
     }
 }
 
@@ -269,52 +133,52 @@ void GlState::DisableFoundArrays()
     {
         SystemGl::DisableClientArray(array);
     }
-    for (unsigned int unit = 1; unit < textureCoordinates_; ++unit)
+    for (unsigned int unit = 1; unit < context_.textureCoordinates; ++unit)
     {
-        extensions_->glClientActiveTexture(Texture0 + unit);
+        context_.extensions->glClientActiveTexture(Texture0 + unit);
         SystemGl::DisableClientArray(GL_TEXTURE_COORD_ARRAY);
     }
-    extensions_->glClientActiveTexture(Texture0);
-    for (unsigned int attribute = 0; attribute < vertexAttributes_; ++attribute)
+    context_.extensions->glClientActiveTexture(Texture0);
+    for (unsigned int attribute = 0; attribute < context_.vertexAttributes; ++attribute)
     {
-        extensions_->glDisableVertexAttribArray(attribute);
+        context_.extensions->glDisableVertexAttribArray(attribute);
     }
 }
 
 void GlState::SetFixedFunctions()
 {
-    pipeline_ = hasPipelines_ ? SystemGl::Get(ProgramPipelineBinding) : 0;
+    pipeline_ = context_.hasPipelines ? SystemGl::Get(ProgramPipelineBinding) : 0;
     if (pipeline_ != 0)
     {
         SystemGl::BindProgramPipeline(0);
     }
     unsigned int active = 0;
-    for (const UnitTarget& texture : unitTargets_)
+    for (const GlContext::UnitTarget& texture : context_.unitTargets)
     {
         if (texture.unit != active)
         {
             active = texture.unit;
-            extensions_->glActiveTexture(Texture0 + active);
+            context_.extensions->glActiveTexture(Texture0 + active);
         }
         SystemGl::Enable(texture.target, false);
     }
-    extensions_->glActiveTexture(Texture0);
+    context_.extensions->glActiveTexture(Texture0);
 }
 
 void GlState::SaveValues()
 {
-    for (Capability& capability : capabilities_)
+    for (GlContext::Capability& capability : context_.capabilities)
     {
         capability.found = SystemGl::IsEnabled(capability.name);
     }
     if (fixed_)
     {
-        for (UnitTarget& texture : unitTargets_)
+        for (GlContext::UnitTarget& texture : context_.unitTargets)
         {
-            extensions_->glActiveTexture(Texture0 + texture.unit);
+            context_.extensions->glActiveTexture(Texture0 + texture.unit);
             texture.found = SystemGl::IsEnabled(texture.target);
         }
-        extensions_->glActiveTexture(Texture0);
+        context_.extensions->glActiveTexture(Texture0);
     }
     SystemGl::Get(GL_POLYGON_MODE, values_.polygonMode);
     values_.shadeModel = SystemGl::Get(GL_SHADE_MODEL);
@@ -329,7 +193,7 @@ void GlState::SaveValues()
     SystemGl::Get(GL_VIEWPORT, values_.viewport);
     values_.texture = SystemGl::Get(GL_TEXTURE_BINDING_2D);
     values_.textureMode = SystemGl::TextureMode();
-    if (extensions_->glClipControl)
+    if (context_.extensions->glClipControl)
     {
         values_.clipControl[0] = SystemGl::Get(ClipOrigin);
         values_.clipControl[1] = SystemGl::Get(ClipDepthMode);
@@ -338,34 +202,34 @@ void GlState::SaveValues()
 
 void GlState::RestoreValues()
 {
-    for (const Capability& capability : capabilities_)
+    for (const GlContext::Capability& capability : context_.capabilities)
     {
         SystemGl::Enable(capability.name, capability.found);
     }
     if (fixed_)
     {
-        for (const UnitTarget& texture : unitTargets_)
+        for (const GlContext::UnitTarget& texture : context_.unitTargets)
         {
-            extensions_->glActiveTexture(Texture0 + texture.unit);
+            context_.extensions->glActiveTexture(Texture0 + texture.unit);
             SystemGl::Enable(texture.target, texture.found);
         }
-        extensions_->glActiveTexture(Texture0);
+        context_.extensions->glActiveTexture(Texture0);
     }
     const auto name = [](int value) { return static_cast<unsigned int>(value); };
     const auto on = [](int value) { return value != 0; };
     SystemGl::PolygonMode(name(values_.polygonMode[0]), name(values_.polygonMode[1]));
     SystemGl::ShadeModel(name(values_.shadeModel));
     SystemGl::ColorMask(on(values_.colorMask[0]), on(values_.colorMask[1]), on(values_.colorMask[2]), on(values_.colorMask[3]));
-    extensions_->glBlendFuncSeparate(name(values_.blendFactors[0]), name(values_.blendFactors[1]), name(values_.blendFactors[2]),
-                                     name(values_.blendFactors[3]));
-    extensions_->glBlendEquationSeparate(name(values_.blendEquations[0]), name(values_.blendEquations[1]));
+    context_.extensions->glBlendFuncSeparate(name(values_.blendFactors[0]), name(values_.blendFactors[1]),
+                                             name(values_.blendFactors[2]), name(values_.blendFactors[3]));
+    context_.extensions->glBlendEquationSeparate(name(values_.blendEquations[0]), name(values_.blendEquations[1]));
     SystemGl::Scissor(values_.scissor[0], values_.scissor[1], values_.scissor[2], values_.scissor[3]);
     SystemGl::Viewport(values_.viewport[0], values_.viewport[1], values_.viewport[2], values_.viewport[3]);
     SystemGl::BindTexture(name(values_.texture));
     SystemGl::TextureMode(values_.textureMode);
-    if (extensions_->glClipControl)
+    if (context_.extensions->glClipControl)
     {
-        extensions_->glClipControl(name(values_.clipControl[0]), name(values_.clipControl[1]));
+        context_.extensions->glClipControl(name(values_.clipControl[0]), name(values_.clipControl[1]));
     }
 }
 
@@ -375,7 +239,7 @@ void GlState::RestoreArrays()
     {
         SystemGl::PopClientState();
     }
-    extensions_->glBindBuffer(ArrayBuffer, static_cast<unsigned int>(arrayBuffer_));
+    context_.extensions->glBindBuffer(ArrayBuffer, static_cast<unsigned int>(arrayBuffer_));
 }
 
 void GlState::End()
@@ -389,19 +253,19 @@ void GlState::End()
     {
         set_ = false;
         // What hosts' slots have bound while CEGUI drew goes as well.
-        if (extensions_->glUseProgram && SystemGl::Get(CurrentProgram) != program_)
+        if (context_.extensions->glUseProgram && SystemGl::Get(CurrentProgram) != program_)
         {
-            extensions_->glUseProgram(static_cast<unsigned int>(program_));
+            context_.extensions->glUseProgram(static_cast<unsigned int>(program_));
         }
-        if (extensions_->glBindFramebuffer && SystemGl::Get(DrawFramebufferBinding) != drawBuffer_)
+        if (context_.extensions->glBindFramebuffer && SystemGl::Get(DrawFramebufferBinding) != drawBuffer_)
         {
-            extensions_->glBindFramebuffer(DrawFramebuffer, static_cast<unsigned int>(drawBuffer_));
+            context_.extensions->glBindFramebuffer(DrawFramebuffer, static_cast<unsigned int>(drawBuffer_));
         }
-        if (extensions_->glBindFramebuffer && SystemGl::Get(ReadFramebufferBinding) != readBuffer_)
+        if (context_.extensions->glBindFramebuffer && SystemGl::Get(ReadFramebufferBinding) != readBuffer_)
         {
-            extensions_->glBindFramebuffer(ReadFramebuffer, static_cast<unsigned int>(readBuffer_));
+            context_.extensions->glBindFramebuffer(ReadFramebuffer, static_cast<unsigned int>(readBuffer_));
         }
-        extensions_->glActiveTexture(Texture0);
+        context_.extensions->glActiveTexture(Texture0);
         SystemGl::LoadMatrix(GL_TEXTURE, texture_);
         SystemGl::LoadMatrix(GL_PROJECTION, projection_);
         SystemGl::LoadMatrix(GL_MODELVIEW, modelView_);
@@ -414,10 +278,10 @@ void GlState::End()
             RestoreValues();
         }
         SystemGl::Enable(ColorSum, colorSum_);
-        extensions_->glActiveTexture(Texture0);
-        if (hasSamplers_)
+        context_.extensions->glActiveTexture(Texture0);
+        if (context_.hasSamplers)
         {
-            extensions_->glBindSampler(0, static_cast<unsigned int>(boundSampler_));
+            context_.extensions->glBindSampler(0, static_cast<unsigned int>(boundSampler_));
         }
         if (fixed_ && pipeline_ != 0)
         {
@@ -433,14 +297,14 @@ void GlState::End()
             state.applyModelViewAndProjectionUniformsIfRequired();
         }
     }
-    if (hasVertexArrayObjects_)
+    if (context_.hasVertexArrayObjects)
     {
-        extensions_->glBindVertexArray(static_cast<unsigned int>(vertexArray_));
+        context_.extensions->glBindVertexArray(static_cast<unsigned int>(vertexArray_));
     }
     state.setActiveTextureUnit(trackedUnit_);
     state.setClientActiveTextureUnit(trackedClientUnit_);
-    extensions_->glActiveTexture(static_cast<unsigned int>(unit_));
-    extensions_->glClientActiveTexture(static_cast<unsigned int>(clientUnit_));
+    context_.extensions->glActiveTexture(static_cast<unsigned int>(unit_));
+    context_.extensions->glClientActiveTexture(static_cast<unsigned int>(clientUnit_));
     state_ = nullptr;
 }
 
@@ -468,7 +332,8 @@ void GlState::UseVertices(const SystemGl::Vertex* vertices, std::size_t count)
     const void* first = vertices;
     if (state_ && UsesOwnArray())
     {
-        extensions_->glBufferData(ArrayBuffer, static_cast<GLsizeiptr>(count * sizeof(SystemGl::Vertex)), vertices, StreamDraw);
+        context_.extensions->glBufferData(ArrayBuffer, static_cast<GLsizeiptr>(count * sizeof(SystemGl::Vertex)), vertices,
+                                          StreamDraw);
         first = nullptr;
     }
     SystemGl::UseVertices(first);
@@ -476,8 +341,8 @@ void GlState::UseVertices(const SystemGl::Vertex* vertices, std::size_t count)
     {
         const auto use = [&](unsigned int location, int size, std::size_t offset)
         {
-            extensions_->glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(SystemGl::Vertex),
-                                               static_cast<const char*>(first) + offset);
+            context_.extensions->glVertexAttribPointer(location, size, GL_FLOAT, GL_FALSE, sizeof(SystemGl::Vertex),
+                                                       static_cast<const char*>(first) + offset);
         };
         use(state_->getVertexAlias()._location, 3, offsetof(SystemGl::Vertex, position));
         use(state_->getColorAlias()._location, 4, offsetof(SystemGl::Vertex, color));
@@ -487,9 +352,9 @@ void GlState::UseVertices(const SystemGl::Vertex* vertices, std::size_t count)
 
 void GlState::ReadNearestPixels(bool nearest)
 {
-    if (nearest != nearest_ && sampler_ != 0)
+    if (nearest != nearest_ && context_.sampler != 0)
     {
         nearest_ = nearest;
-        extensions_->glBindSampler(0, nearest ? sampler_ : 0);
+        context_.extensions->glBindSampler(0, nearest ? context_.sampler : 0);
     }
 }

@@ -2,17 +2,14 @@
 #pragma once
 
 #include "../../platform/SystemGl.h"
+#include "GlContext.h"
 
 #include <osg/Matrixf>
-#include <osg/observer_ptr>
-#include <osg/ref_ptr>
 
 #include <cstddef>
-#include <vector>
 
 namespace osg
 {
-class GLExtensions;
 class State;
 } // namespace osg
 
@@ -21,8 +18,8 @@ class State;
 class GlState
 {
 public:
-    GlState();
-    ~GlState();
+    GlState() = default;
+    ~GlState() = default;
     GlState(const GlState&) = delete;
     GlState& operator=(const GlState&) = delete;
 
@@ -46,19 +43,6 @@ public:
     void ReadNearestPixels(bool nearest);
 
 private:
-    struct Capability
-    {
-        unsigned int name;
-        bool wanted;
-        bool found;
-    };
-    /// A texture target of a unit, which the fixed functions would draw with.
-    struct UnitTarget
-    {
-        unsigned int unit;
-        unsigned int target;
-        bool found;
-    };
     /// What `glPushAttrib` would save, where its stack is full.
     struct Values
     {
@@ -75,32 +59,16 @@ private:
         int clipControl[2];
     };
 
-    void LearnContext(osg::State& state);
     void SetArrays();
     void DisableFoundArrays();
-    bool UsesOwnArray() const { return hasVertexArrayObjects_ && !clientPushed_; }
+    bool UsesOwnArray() const { return context_.hasVertexArrayObjects && !clientPushed_; }
     void SetFixedFunctions();
     void SaveValues();
     void RestoreValues();
     void RestoreArrays();
 
     osg::State* state_ = nullptr; ///< between `Begin` and `End`
-    osg::ref_ptr<const osg::GLExtensions> extensions_;
-
-    // Of the context.
-    osg::observer_ptr<osg::State> contextState_;
-    unsigned int ownArray_ = 0; ///< a vertex-array object and its buffer object, made when they are wanted
-    unsigned int ownBuffer_ = 0;
-    unsigned int sampler_ = 0; ///< reads nearest pixels; none where OpenGL has no samplers
-    bool hasSamplers_ = false;
-    bool hasVertexArrayObjects_ = false;
-    bool hasPipelines_ = false;
-    int attributeDepth_ = 0; ///< of OpenGL's stack
-    int clientDepth_ = 0;
-    unsigned int vertexAttributes_ = 0;
-    unsigned int textureCoordinates_ = 0;
-    std::vector<Capability> capabilities_;
-    std::vector<UnitTarget> unitTargets_;
+    GlContext context_;
 
     // As found.
     bool set_ = false; ///< since `Set`

@@ -13,6 +13,7 @@
 #include "../widgets/MessageLoops.h"
 #include "../widgets/Names.h"
 #include "../widgets/ParsingLocale.h"
+#include "../widgets/WholePixels.h"
 #include "FontInstallation.h"
 #include "SkinResourceProvider.h"
 
@@ -29,6 +30,7 @@
 #include <osg/observer_ptr>
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -111,7 +113,8 @@ bool CeGuiMainFrame::Init(osgViewer::Viewer* viewer, GUIUserType userType)
     if (viewer && viewer->getCamera()->getViewport())
     {
         const osg::Viewport& viewport = *viewer->getCamera()->getViewport();
-        SetWindowSize(static_cast<UINT>(viewport.width()), static_cast<UINT>(viewport.height()));
+        SetWindowSize(static_cast<UINT>(std::max(0, WholePixels(viewport.width()))),
+                      static_cast<UINT>(std::max(0, WholePixels(viewport.height()))));
     }
     currentButton_ = -1;
     propertyDlgOpen_ = false;
