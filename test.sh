@@ -4,6 +4,7 @@
 #   test.sh [CTEST OPTIONS...]
 #   test.sh --sanitize [CTEST OPTIONS...]   the suites under the address sanitizer and the one for undefined behaviour, in a
 #                                           build folder of their own
+#   test.sh --scenes                        every one of OpenSceneGraph's examples in the table as a host, in every setting
 #   test.sh --windows                       after a plain run: library, services and host as true Windows programs, linked, and
 #                                           the tests that need no scene, run under Wine and counted against that run
 set -euo pipefail
@@ -13,6 +14,9 @@ if [ "${1:-}" = --windows ]; then
     exec "$root/platform/mingw/test.sh"
 fi
 export NX_BUILD=$root/build
+if [ "${1:-}" = --scenes ]; then
+    exec "$root/tests/system/scenes/examples/run_all.sh"
+fi
 if [ "${1:-}" = --sanitize ]; then
     shift
     export NX_BUILD=$root/build-sanitize
