@@ -6,6 +6,7 @@
 #                                           build folder of their own
 #   test.sh --poison [CTEST OPTIONS...]     the suites that draw scenes and read foreign files, with an allocator that fills fresh
 #                                           and freed memory and looks behind each block, in the system's libraries as well
+#   test.sh --scenes                        every one of OpenSceneGraph's examples in the table as a host, in every setting
 #   test.sh --windows                       after a plain run: library, services and host as true Windows programs, linked, and
 #                                           the tests that need no scene, run under Wine and counted against that run
 set -euo pipefail
@@ -15,6 +16,9 @@ if [ "${1:-}" = --windows ]; then
     exec "$root/platform/mingw/test.sh"
 fi
 export NX_BUILD=$root/build
+if [ "${1:-}" = --scenes ]; then
+    exec "$root/tests/system/scenes/examples/run_all.sh"
+fi
 if [ "${1:-}" = --sanitize ]; then
     shift
     export NX_BUILD=$root/build-sanitize

@@ -9,6 +9,8 @@ name=$2
 sources=$(cd "$folder" && ls -- *.cpp)
 {
     echo '#include "ExampleHost.h"'
+    # A macro of Win32's that is a name of OpenSceneGraph's.
+    echo '#undef RELATIVE'
     (cd "$folder" && cat -- *.cpp $(ls -- *.h *.hpp 2>/dev/null || true)) | tr -d '\r' |
         sed -nE 's/^[ \t]*#[ \t]*include[ \t]*<([^>]+)>.*/#include <\1>/p' | sort -u
     echo '#include "ExampleViewer.h"'
