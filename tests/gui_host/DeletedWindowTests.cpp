@@ -191,7 +191,8 @@ protected:
     }
 
     /// What comes from user and host at any time, with the state as it is.
-    static void GoOn()
+    /// @param rows counts of rows that the property list is to show in turn
+    static void GoOn(const std::vector<int>& rows)
     {
         GuiHost& host = Host();
         CeGuiMainFrame& frame = Frame();
@@ -218,9 +219,9 @@ protected:
         queue.keyPress(osgGA::GUIEventAdapter::KEY_Page_Up);
         host.Frames(1);
         MakeCurrent();
-        for (const int rows : {760, 3})
+        for (const int count : rows)
         {
-            SetRows(frame, rows);
+            SetRows(frame, count);
             frame.RefreshPropertyDlg();
         }
         for (int i = 0; i < 2; ++i)
@@ -242,20 +243,29 @@ TEST_P(DeletedWindow, leaves_everything_else_going)
     Enter();
     const std::set<std::string> names = Names();
     ASSERT_GE(names.size(), static_cast<std::size_t>(GetParam().windows));
+    // Each window meets every operation and a list taller than a texture in one of the states, which differs from window to
+    // window.
+    auto turn = std::find_if(std::begin(states), std::end(states),
+                             [&](const FrameState& state) { return state.name == GetParam().name; }) -
+                std::begin(states);
     for (const std::string& name : names)
     {
         SCOPED_TRACE(name);
+        const bool thorough = turn++ % static_cast<std::ptrdiff_t>(std::size(states)) == 0;
         Enter();
         ASSERT_TRUE(Names().count(name));
         Frame().DeleteButton(CString(name.c_str()));
-        GoOn();
+        GoOn(thorough ? std::vector<int>{760, 3} : std::vector<int>{3});
         Frame().OnToolBarFullScene(false);
         Frame().OpenPropertyDlg(nullptr, false);
         if (!Frame().IsShowLeftToolBar())
         {
             Frame().OnToolBarRCList(nullptr);
         }
-        CallEveryOperation(Frame());
+        if (thorough)
+        {
+            CallEveryOperation(Frame());
+        }
         Host().Frames(1);
         Host().TakeMessages();
     }
