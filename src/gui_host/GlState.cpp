@@ -332,7 +332,7 @@ void GlState::UseVertices(const SystemGl::Vertex* vertices, std::size_t count)
     const void* first = vertices;
     if (state_ && UsesOwnArray())
     {
-        context_.extensions->glBufferData(ArrayBuffer, static_cast<GLsizeiptr>(count * sizeof(SystemGl::Vertex)), vertices,
+        context_.extensions->glBufferData(ArrayBuffer, static_cast<std::ptrdiff_t>(count * sizeof(SystemGl::Vertex)), vertices,
                                           StreamDraw);
         first = nullptr;
     }
