@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GlState.h"
 
+#include "GlNames.h"
+
 #include <osg/GLExtensions>
 #include <osg/State>
 #include <osg/Uniform>
@@ -11,49 +13,7 @@
 
 namespace
 {
-// Names that the headers of OpenGL 1.1 lack.
-constexpr unsigned int ActiveTexture = 0x84E0;
-constexpr unsigned int ArrayBuffer = 0x8892;
-constexpr unsigned int ArrayBufferBinding = 0x8894;
-constexpr unsigned int BlendDestinationAlpha = 0x80CA;
-constexpr unsigned int BlendDestinationRgb = 0x80C8;
-constexpr unsigned int BlendEquationAlpha = 0x883D;
-constexpr unsigned int BlendEquationRgb = 0x8009;
-constexpr unsigned int BlendSourceAlpha = 0x80CB;
-constexpr unsigned int BlendSourceRgb = 0x80C9;
-constexpr unsigned int ClientActiveTexture = 0x84E1;
-constexpr unsigned int ClipDepthMode = 0x935D;
-constexpr unsigned int ClipDistance0 = 0x3000;
-constexpr unsigned int ClipOrigin = 0x935C;
-constexpr unsigned int ColorSum = 0x8458;
-constexpr unsigned int CurrentProgram = 0x8B8D;
-constexpr unsigned int DrawFramebuffer = 0x8CA9;
-constexpr unsigned int DrawFramebufferBinding = 0x8CA6;
-constexpr unsigned int FogCoordinateArray = 0x8457;
-constexpr unsigned int FramebufferSrgb = 0x8DB9;
-constexpr unsigned int FunctionAdd = 0x8006;
-constexpr unsigned int LowerLeft = 0x8CA1;
-constexpr unsigned int MaxTextureCoordinates = 0x8871;
-constexpr unsigned int MaxTextureUnits = 0x84E2;
-constexpr unsigned int MaxVertexAttributes = 0x8869;
-constexpr unsigned int NegativeOneToOne = 0x935E;
-constexpr unsigned int ProgramPipelineBinding = 0x825A;
-constexpr unsigned int ReadFramebuffer = 0x8CA8;
-constexpr unsigned int ReadFramebufferBinding = 0x8CAA;
-constexpr unsigned int SampleAlphaToCoverage = 0x809E;
-constexpr unsigned int SampleAlphaToOne = 0x809F;
-constexpr unsigned int SampleCoverage = 0x80A0;
-constexpr unsigned int SampleMask = 0x8E51;
-constexpr unsigned int SamplerBinding = 0x8919;
-constexpr unsigned int SecondaryColorArray = 0x845E;
-constexpr unsigned int StreamDraw = 0x88E0;
-constexpr unsigned int Texture0 = 0x84C0;
-constexpr unsigned int Texture3D = 0x806F;
-constexpr unsigned int TextureCubeMap = 0x8513;
-constexpr unsigned int TextureRectangle = 0x84F5;
-constexpr unsigned int VertexArrayBinding = 0x85B5;
-constexpr unsigned int VertexProgramTwoSide = 0x8643;
-
+using namespace GlNames;
 constexpr float Identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 } // namespace
 
@@ -299,74 +259,6 @@ void GlState::SetFixedFunctions()
         SystemGl::Enable(texture.target, false);
     }
     extensions_->glActiveTexture(Texture0);
-}
-
-void GlState::SaveValues()
-{
-    for (Capability& capability : capabilities_)
-    {
-        capability.found = SystemGl::IsEnabled(capability.name);
-    }
-    if (fixed_)
-    {
-        for (UnitTarget& texture : unitTargets_)
-        {
-            extensions_->glActiveTexture(Texture0 + texture.unit);
-            texture.found = SystemGl::IsEnabled(texture.target);
-        }
-        extensions_->glActiveTexture(Texture0);
-    }
-    SystemGl::Get(GL_POLYGON_MODE, values_.polygonMode);
-    values_.shadeModel = SystemGl::Get(GL_SHADE_MODEL);
-    SystemGl::Get(GL_COLOR_WRITEMASK, values_.colorMask);
-    values_.blendFactors[0] = SystemGl::Get(BlendSourceRgb);
-    values_.blendFactors[1] = SystemGl::Get(BlendDestinationRgb);
-    values_.blendFactors[2] = SystemGl::Get(BlendSourceAlpha);
-    values_.blendFactors[3] = SystemGl::Get(BlendDestinationAlpha);
-    values_.blendEquations[0] = SystemGl::Get(BlendEquationRgb);
-    values_.blendEquations[1] = SystemGl::Get(BlendEquationAlpha);
-    SystemGl::Get(GL_SCISSOR_BOX, values_.scissor);
-    SystemGl::Get(GL_VIEWPORT, values_.viewport);
-    values_.texture = SystemGl::Get(GL_TEXTURE_BINDING_2D);
-    values_.textureMode = SystemGl::TextureMode();
-    if (extensions_->glClipControl)
-    {
-        values_.clipControl[0] = SystemGl::Get(ClipOrigin);
-        values_.clipControl[1] = SystemGl::Get(ClipDepthMode);
-    }
-}
-
-void GlState::RestoreValues()
-{
-    for (const Capability& capability : capabilities_)
-    {
-        SystemGl::Enable(capability.name, capability.found);
-    }
-    if (fixed_)
-    {
-        for (const UnitTarget& texture : unitTargets_)
-        {
-            extensions_->glActiveTexture(Texture0 + texture.unit);
-            SystemGl::Enable(texture.target, texture.found);
-        }
-        extensions_->glActiveTexture(Texture0);
-    }
-    const auto name = [](int value) { return static_cast<unsigned int>(value); };
-    const auto on = [](int value) { return value != 0; };
-    SystemGl::PolygonMode(name(values_.polygonMode[0]), name(values_.polygonMode[1]));
-    SystemGl::ShadeModel(name(values_.shadeModel));
-    SystemGl::ColorMask(on(values_.colorMask[0]), on(values_.colorMask[1]), on(values_.colorMask[2]), on(values_.colorMask[3]));
-    extensions_->glBlendFuncSeparate(name(values_.blendFactors[0]), name(values_.blendFactors[1]), name(values_.blendFactors[2]),
-                                     name(values_.blendFactors[3]));
-    extensions_->glBlendEquationSeparate(name(values_.blendEquations[0]), name(values_.blendEquations[1]));
-    SystemGl::Scissor(values_.scissor[0], values_.scissor[1], values_.scissor[2], values_.scissor[3]);
-    SystemGl::Viewport(values_.viewport[0], values_.viewport[1], values_.viewport[2], values_.viewport[3]);
-    SystemGl::BindTexture(name(values_.texture));
-    SystemGl::TextureMode(values_.textureMode);
-    if (extensions_->glClipControl)
-    {
-        extensions_->glClipControl(name(values_.clipControl[0]), name(values_.clipControl[1]));
-    }
 }
 
 void GlState::RestoreArrays()
