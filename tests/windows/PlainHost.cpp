@@ -70,6 +70,16 @@ void GuiHost::Frames(int)
 
 void GuiHost::Close() {}
 
+void GuiHost::Start(GUIUserType)
+{
+    NoView();
+}
+
+void GuiHost::Resize(int, int)
+{
+    NoView();
+}
+
 void GuiHost::MoveMouse(int, int)
 {
     NoView();
@@ -110,7 +120,17 @@ Screenshot GuiHost::Shoot()
     NoView();
 }
 
+std::vector<HostMessage> GuiHost::TakeMessages()
+{
+    NoView();
+}
+
 std::vector<WPARAM> GuiHost::TakeCodes()
+{
+    NoView();
+}
+
+RECT GuiHost::RectOf(const char*)
 {
     NoView();
 }
