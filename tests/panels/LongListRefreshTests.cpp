@@ -134,7 +134,7 @@ TEST_F(LongListRefreshTest, its_windows_deleted_by_name_it_goes_on)
 {
     for (const char* name : {Stretches[0], Stretches[1], ListPicture, ListFrame, Thumb, PanelPicture, PanelFrame})
     {
-        for (const float scrolled : {0.0f, 100.0f, 1000.0f})
+        for (const float scrolled : {100.0f, 1000.0f})
         {
             SCOPED_TRACE(name + std::string(" scrolled by ") + std::to_string(scrolled));
             OpenScrolling(1000);
@@ -152,15 +152,9 @@ TEST_F(LongListRefreshTest, its_windows_deleted_by_name_it_goes_on)
                     Drag(by);
                 }
             }
-            for (const int rows : {1000, 3, 2000})
-            {
-                Refresh(NumberedRows(rows));
-            }
-            Frame().OnToolBarFullScene(true);
-            Frame().OnToolBarFullScene(false);
+            Refresh(NumberedRows(3));
             Frame().OpenPropertyDlg(nullptr, false);
             Frame().OpenPropertyDlg(nullptr, true);
-            Host().Frames(1);
             Rebuild();
             Refresh(NumberedRows(1000));
             ExpectRowsInSight(1000);
