@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Gui.h"
 
+#include "ViewWindow.h"
+
 #include <widgets/WindowNames.h>
 
 #include <CEGUI/CoordConverter.h>
@@ -9,7 +11,6 @@
 
 #include <osg/Image>
 #include <osgGA/TrackballManipulator>
-#include <osgViewer/api/Win32/GraphicsWindowWin32>
 
 #include <algorithm>
 #include <sstream>
@@ -89,19 +90,7 @@ GuiHost::GuiHost(int width, int height, osg::Node* scene) : width_(width), heigh
     mainWnd_.Attach(main_);
     AfxGetApp()->m_pMainWnd = &mainWnd_;
 
-    osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
-    traits->windowingSystemPreference = "Win32";
-    traits->displayNum = 0;
-    traits->screenNum = 0;
-    traits->x = 0;
-    traits->y = 0;
-    traits->width = width;
-    traits->height = height;
-    traits->doubleBuffer = true;
-    traits->windowDecoration = false;
-    traits->inheritedWindowData = new osgViewer::GraphicsWindowWin32::WindowData(view_);
-    traits->setInheritedWindowPixelFormat = true;
-    osg::ref_ptr<osg::GraphicsContext> context = osg::GraphicsContext::createGraphicsContext(traits);
+    const osg::ref_ptr<osg::GraphicsContext> context = NewContext(view_, width, height);
     if (!context)
     {
         throw std::runtime_error("no OpenGL context for the test's window");

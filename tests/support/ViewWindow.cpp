@@ -3,9 +3,7 @@
 
 #include <osgViewer/api/Win32/GraphicsWindowWin32>
 
-ViewWindow::ViewWindow(HWND parent, int width, int height)
-    : window_(CreateWindowExW(0, L"NxGuiTestView", L"", WS_CHILD | WS_VISIBLE, 0, 0, width, height, parent, nullptr,
-                              GetModuleHandleW(nullptr), nullptr))
+osg::ref_ptr<osg::GraphicsContext> NewContext(HWND window, int width, int height)
 {
     const osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
     traits->windowingSystemPreference = "Win32";
@@ -17,7 +15,14 @@ ViewWindow::ViewWindow(HWND parent, int width, int height)
     traits->height = height;
     traits->doubleBuffer = true;
     traits->windowDecoration = false;
-    traits->inheritedWindowData = new osgViewer::GraphicsWindowWin32::WindowData(window_);
+    traits->inheritedWindowData = new osgViewer::GraphicsWindowWin32::WindowData(window);
     traits->setInheritedWindowPixelFormat = true;
-    context_ = osg::GraphicsContext::createGraphicsContext(traits);
+    return osg::GraphicsContext::createGraphicsContext(traits);
+}
+
+ViewWindow::ViewWindow(HWND parent, int width, int height)
+    : window_(CreateWindowExW(0, L"NxGuiTestView", L"", WS_CHILD | WS_VISIBLE, 0, 0, width, height, parent, nullptr,
+                              GetModuleHandleW(nullptr), nullptr)),
+      context_(NewContext(window_, width, height))
+{
 }

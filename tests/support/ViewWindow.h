@@ -3,6 +3,9 @@
 
 #include "Gui.h"
 
+/// A context for a window of this size, which is not realized; null when there is none.
+osg::ref_ptr<osg::GraphicsContext> NewContext(HWND window, int width, int height);
+
 /// A child window with an OpenGL context of its own, which is not realized. The parent destroys the window.
 class ViewWindow
 {
