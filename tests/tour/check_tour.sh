@@ -23,8 +23,8 @@ part=${1:-}
 rm -rf "$folder"
 mkdir -p "$folder"
 folder=$(cd "$folder" && pwd)
-# Of another city, perhaps: the list shows them.
-rm -rf "$build/bin/data/views"
+# What an earlier tour left: the list shows the views, perhaps of another city, and the dialog for publishing the texts.
+rm -rf "$build/bin/data/views" "$build/bin/sysmid/tavmemory.ini"
 if [ -z "${WINEPREFIX:-}" ] && [ -e "$build/wineprefix/fresh" ]; then
     "$winelib/copy_prefix.sh" "$build/wineprefix" "$folder/prefix"
     export WINEPREFIX=$folder/prefix
