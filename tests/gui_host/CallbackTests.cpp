@@ -137,6 +137,7 @@ protected:
     {
         EXPECT_TRUE(IsShown());
         Host().TakeMessages();
+        CEGUI::System::getSingleton().getDefaultGUIContext().setMouseButtonMultiClickTimeout(1e-6f);
         Host().Click(CloseX, CloseY);
         EXPECT_EQ(Host().TakeCodes(), Codes{GUI_CMD_CLOSE});
         Host().MoveMouse(ViewWidth / 2, ViewHeight / 2);
