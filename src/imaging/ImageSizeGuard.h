@@ -12,7 +12,7 @@ namespace ImageSizeGuard
 constexpr std::int64_t LongestSide = 32768; // pixels
 /// Of one bitmap's pixels. A pixel of less than 24 bits counts as one of 24 bits, since GDI+ converts what it draws. A decoder
 /// may hold the pixels beside the bitmap's own, and drawing takes 32 bits a pixel for as long as it lasts: a thumbnail of 68 M
-/// pixels of 24 bits, 205 MB, took 690 MB.
+/// pixels of 24 bits, 205 MB, took about 690 MB (estimated from the process's peak).
 constexpr std::int64_t MostBytes = 256 << 20;
 /// Of a picture file, which is read into memory as a whole.
 constexpr std::int64_t LargestFile = 2 * MostBytes;
